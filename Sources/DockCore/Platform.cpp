@@ -1,0 +1,37 @@
+#include "DockCore/Platform.h"
+
+#include <atomic>
+
+namespace DockCore {
+
+namespace {
+std::atomic<const Platform*> installed = nullptr;
+std::atomic<quint64> installations = 0;
+
+void install(const Platform* platform) {
+    installed = platform;
+    ++installations;
+}
+} // namespace
+
+const Platform& Platform::current() {
+    const Platform* platform = installed;
+    Q_ASSERT_X(platform != nullptr, "Platform::current", "no platform is installed");
+    return *platform;
+}
+
+quint64 Platform::generation() {
+    return installations;
+}
+
+PlatformScope::PlatformScope(const Platform& platform)
+    : m_platform(platform)
+    , m_previous(installed) {
+    install(&m_platform);
+}
+
+PlatformScope::~PlatformScope() {
+    install(m_previous);
+}
+
+} // namespace DockCore

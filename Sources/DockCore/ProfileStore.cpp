@@ -1,0 +1,80 @@
+#include "DockCore/ProfileStore.h"
+
+#include "DockCore/AppCatalog.h"
+#include "DockCore/DefaultProfiles.h"
+#include "DockCore/Error.h"
+#include "DockCore/JSONFile.h"
+#include "DockCore/Paths.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+namespace DockCore {
+
+namespace {
+/// All the profiles in the file; none when one of them cannot be read.
+QList<Profile> profilesIn(const QString& path) {
+    const std::optional<QJsonValue> json = JSONFile::read(path);
+    if (!json || !json->isArray())
+        return {};
+    QList<Profile> profiles;
+    for (const QJsonValue element : json->toArray()) {
+        const std::optional<Profile> profile = Profile::fromJson(element);
+        if (!profile)
+            return {};
+        profiles.append(*profile);
+    }
+    return profiles;
+}
+
+AppSettings settingsIn(const QString& path) {
+    const std::optional<QJsonValue> json = JSONFile::read(path);
+    return json ? AppSettings::fromJson(*json).value_or(AppSettings()) : AppSettings();
+}
+
+void saveIgnoringErrors(const QJsonValue& value, const QString& path) {
+    try {
+        JSONFile::save(value, path);
+    } catch (const Error&) {
+        // What is in memory counts for the rest of the run.
+    }
+}
+
+QList<Profile>::const_iterator find(const QList<Profile>& profiles, const std::optional<QUuid>& id) {
+    return std::find_if(profiles.cbegin(), profiles.cend(), [&id](const Profile& profile) { return profile.id == id; });
+}
+} // namespace
+
+ProfileStore::ProfileStore()
+    : profiles(profilesIn(Paths::profiles()))
+    , settings(settingsIn(Paths::settings())) {
+    if (profiles.isEmpty()) {
+        profiles = DefaultProfiles::make(AppCatalog::shared());
+        saveProfiles();
+    }
+    if (find(profiles, settings.activeProfileID) != profiles.cend())
+        return;
+    settings.activeProfileID = profiles.isEmpty() ? std::nullopt : std::optional(profiles.constFirst().id);
+    saveSettings();
+}
+
+const Profile& ProfileStore::active() const {
+    if (profiles.isEmpty())
+        qFatal("There is no profile.");
+    const auto named = find(profiles, settings.activeProfileID);
+    return named == profiles.cend() ? profiles.constFirst() : *named;
+}
+
+void ProfileStore::saveProfiles() const {
+    QJsonArray array;
+    for (const Profile& profile : profiles)
+        array.append(profile.toJson());
+    saveIgnoringErrors(array, Paths::profiles());
+}
+
+void ProfileStore::saveSettings() const {
+    saveIgnoringErrors(settings.toJson(), Paths::settings());
+}
+
+} // namespace DockCore

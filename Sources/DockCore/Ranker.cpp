@@ -1,0 +1,84 @@
+#include "DockCore/Ranker.h"
+
+#include "DockCore/AppCatalog.h"
+#include "DockCore/SpotlightUsage.h"
+#include "DockCore/UsageStore.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <vector>
+
+namespace DockCore {
+
+namespace {
+constexpr double pointsAMinute = 1;
+constexpr double pointsAnActivation = 2;
+constexpr double mostPointsASpotlightDay = 10;
+
+/// A score and the name to order it by where scores are equal.
+struct Entry {
+    AppScore score;
+    /// UTF-8 of the canonical form: its bytes are in the order of the code points.
+    QByteArray name;
+};
+
+/// In the order of their identifiers, so that what ties in everything still comes out the same every time.
+QList<AppInfo> candidates(const QHash<QString, UsageTotals>& totals, AppCatalog& catalog, double weight) {
+    QHash<QString, AppInfo> found;
+    for (auto total = totals.cbegin(); total != totals.cend(); ++total) {
+        if (const auto app = catalog.info(total.key()))
+            found.insert(total.key(), *app);
+    }
+    if (weight > 0) {
+        // What was never tracked can still have been opened.
+        for (const AppInfo& app : catalog.installedApps()) {
+            if (!found.contains(app.bundleID))
+                found.insert(app.bundleID, app);
+        }
+    }
+    QList<AppInfo> apps = found.values();
+    std::sort(apps.begin(), apps.end(),
+              [](const AppInfo& left, const AppInfo& right) { return left.bundleID < right.bundleID; });
+    return apps;
+}
+} // namespace
+
+double Ranker::spotlightWeight(int trackedDays, UsageWindow window) {
+    const double untracked = 1 - static_cast<double>(trackedDays) / days(window);
+    return untracked >= 0 ? untracked * mostPointsASpotlightDay : 0;
+}
+
+QList<AppScore> Ranker::rank(const UsageStore& usage, UsageWindow window, AppCatalog& catalog, Spotlight spotlight,
+                             const QDateTime& now) {
+    const QHash<QString, UsageTotals> totals = usage.totals(window, now);
+    const double weight = spotlight == Spotlight::include ? spotlightWeight(usage.trackedDays(window, now), window) : 0;
+
+    std::vector<Entry> entries;
+    for (const AppInfo& app : candidates(totals, catalog, weight)) {
+        if (AppCatalog::ignored().contains(app.bundleID))
+            continue;
+        const UsageTotals total = totals.value(app.bundleID);
+        const SpotlightUsage::Result opened =
+            weight > 0 ? SpotlightUsage::lookup(app.path, window, now) : SpotlightUsage::Result();
+        const double score = total.seconds / 60 * pointsAMinute +
+                             pointsAnActivation * static_cast<double>(total.activations) +
+                             weight * static_cast<double>(opened.daysUsed);
+        if (!(score > 0))
+            continue;
+        entries.push_back(
+            {{app, total.seconds, total.activations, total.activeDays, opened.daysUsed, opened.lastUsed, score},
+             app.name.normalized(QString::NormalizationForm_C).toUtf8()});
+    }
+    std::stable_sort(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
+        return left.score.score == right.score.score ? left.name < right.name : left.score.score > right.score.score;
+    });
+
+    QList<AppScore> ranking;
+    ranking.reserve(static_cast<qsizetype>(entries.size()));
+    for (Entry& entry : entries)
+        ranking.append(std::move(entry.score));
+    return ranking;
+}
+
+} // namespace DockCore

@@ -1,0 +1,205 @@
+#include "DockCore/SnapshotStore.h"
+
+#include "DockCore/AtomicFile.h"
+#include "DockCore/DockStore.h"
+#include "DockCore/Error.h"
+#include "DockCore/JSONFile.h"
+#include "DockCore/Platform.h"
+#include "DockCore/Ports/Clock.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QUuid>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace DockCore {
+
+namespace {
+
+/// The originals, which stay for ever, do not count.
+constexpr qsizetype maximumSnapshots = 40;
+constexpr qsizetype uuidCharacters = 6;
+
+QString newId(const QDateTime& now) {
+    const QString uuid = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+    return QString::number(now.toMSecsSinceEpoch()) + u'-' + uuid.first(uuidCharacters);
+}
+
+/// Ids become file names, and an index can be written by anybody: none may lead out of the folder.
+bool isFileName(const QString& id) {
+    return !id.isEmpty() && !id.startsWith(u'.') && !id.contains(u'/') && !id.contains(QChar::Null);
+}
+
+QStringList bundleIDs(const QList<DockTile>& tiles) {
+    QStringList result;
+    for (const DockTile& tile : tiles) {
+        if (tile.bundleID)
+            result.append(*tile.bundleID);
+    }
+    return result;
+}
+
+QList<Snapshot> readIndex(const QString& path) {
+    const auto json = JSONFile::read(path);
+    if (!json || !json->isArray())
+        return {};
+    QList<Snapshot> snapshots;
+    const QJsonArray records = json->toArray();
+    for (const QJsonValue record : records) {
+        const auto snapshot = Snapshot::fromJson(record);
+        if (!snapshot || !isFileName(snapshot->id))
+            return {};
+        snapshots.append(*snapshot);
+    }
+    return snapshots;
+}
+
+} // namespace
+
+QJsonValue Snapshot::toJson() const {
+    return QJsonObject{
+        {u"id"_s, id},
+        {u"date"_s, JSONFile::dateString(date)},
+        {u"reason"_s, reason},
+        {u"bundleIDs"_s, QJsonArray::fromStringList(bundleIDs)},
+        {u"signature"_s, QJsonArray::fromStringList(signature)},
+        {u"isOriginal"_s, isOriginal},
+    };
+}
+
+std::optional<Snapshot> Snapshot::fromJson(const QJsonValue& json) {
+    const QJsonValue id = json[u"id"];
+    const auto date = JSONFile::date(json[u"date"]);
+    const QJsonValue reason = json[u"reason"];
+    const auto bundleIDs = JSONFile::strings(json[u"bundleIDs"]);
+    const auto signature = JSONFile::strings(json[u"signature"]);
+    const QJsonValue isOriginal = json[u"isOriginal"];
+    if (!id.isString() || !date || !reason.isString() || !bundleIDs || !signature || !isOriginal.isBool())
+        return std::nullopt;
+    return Snapshot{id.toString(), *date, reason.toString(), *bundleIDs, *signature, isOriginal.toBool()};
+}
+
+SnapshotStore::SnapshotStore(const QString& folder)
+    : m_folder(folder)
+    , m_all(readIndex(folder + u"/index.json"_s)) {}
+
+QList<Snapshot> SnapshotStore::all() const {
+    const std::lock_guard guard(m_lock);
+    return m_all;
+}
+
+std::optional<Snapshot> SnapshotStore::original() const {
+    const QList<Snapshot> snapshots = all();
+    const auto found = std::find_if(snapshots.cbegin(), snapshots.cend(), std::mem_fn(&Snapshot::isOriginal));
+    return found != snapshots.cend() ? std::optional(*found) : std::nullopt;
+}
+
+Snapshot SnapshotStore::capture(const QString& reason, Mark mark) {
+    const std::lock_guard changing(m_changing);
+    Clock& clock = Platform::current().clock;
+    const DockState state = DockStore::capture();
+    const auto apps = state.constFind(u"persistent-apps"_s);
+    const QList<DockTile> tiles = apps != state.constEnd() ? tilesFrom(*apps) : QList<DockTile>();
+
+    const QString id = newId(clock.now());
+    const QByteArray bytes = PropertyList{state}.serialize(PropertyList::Format::binary);
+    if (bytes.isEmpty())
+        throw FileError(u"The Dock could not be saved: it holds something that a property list cannot."_s);
+    AtomicFile::save(bytes, statePath(id), AtomicFile::Access::ownerOnly);
+
+    const Snapshot snapshot{id, clock.now(), reason, bundleIDs(tiles), layoutSignature(tiles), mark == Mark::original};
+    {
+        const std::lock_guard guard(m_lock);
+        m_all.prepend(snapshot);
+        prune();
+    }
+    saveIndex();
+    return snapshot;
+}
+
+std::optional<Snapshot> SnapshotStore::previous(const QList<DockTile>& current) const {
+    const QStringList signature = layoutSignature(current);
+    for (const Snapshot& snapshot : all()) {
+        if (snapshot.signature != signature)
+            return snapshot;
+    }
+    return std::nullopt;
+}
+
+void SnapshotStore::restore(const Snapshot& snapshot) {
+    const DockState saved = state(snapshot);
+    capture(u"Before restoring"_s, Mark::ordinary);
+    DockStore::restore(saved);
+}
+
+PropertyList::Dictionary SnapshotStore::state(const Snapshot& snapshot) const {
+    const QString path = statePath(snapshot.id);
+    const auto error = [&path](const QString& reason) {
+        return FileError(u"“%1” could not be read: %2."_s.arg(QFileInfo(path).fileName(), reason));
+    };
+    QFile file(path);
+    if (!isFileName(snapshot.id) || (file.exists() && !QFileInfo(path).isFile()))
+        throw error(u"it is no file"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        throw error(file.errorString());
+    file.close();
+    const auto saved = PropertyList::readDictionary(path);
+    if (!saved)
+        throw error(u"it is damaged"_s);
+    return *saved;
+}
+
+void SnapshotStore::remove(const Snapshot& snapshot) {
+    if (snapshot.isOriginal)
+        return;
+    const std::lock_guard changing(m_changing);
+    {
+        const std::lock_guard guard(m_lock);
+        leave(snapshot.id);
+    }
+    try {
+        saveIndex();
+    } catch (const FileError&) {
+        // The index on disk still names the snapshot, and so its file stays for now.
+    }
+}
+
+QString SnapshotStore::statePath(const QString& id) const {
+    return m_folder + u'/' + id + u".plist"_s;
+}
+
+/// Takes the oldest ones beyond the limit off the list; `m_lock` is held.
+void SnapshotStore::prune() {
+    QStringList ids;
+    for (const Snapshot& snapshot : std::as_const(m_all)) {
+        if (!snapshot.isOriginal)
+            ids.append(snapshot.id);
+    }
+    for (const QString& id : ids.mid(maximumSnapshots))
+        leave(id);
+}
+
+/// Takes a snapshot off the list and marks its file for removal; `m_lock` is held.
+void SnapshotStore::leave(const QString& id) {
+    const auto isLeaving = [&id](const Snapshot& snapshot) { return snapshot.id == id && !snapshot.isOriginal; };
+    if (m_all.removeIf(isLeaving) > 0)
+        m_leaving.append(id);
+}
+
+/// Writes the list and then removes the files that it no longer names; `m_changing` is held.
+void SnapshotStore::saveIndex() {
+    QJsonArray records;
+    for (const Snapshot& snapshot : all())
+        records.append(snapshot.toJson());
+    JSONFile::save(records, m_folder + u"/index.json"_s);
+    for (const QString& id : std::exchange(m_leaving, {}))
+        QFile::remove(statePath(id));
+}
+
+} // namespace DockCore
