@@ -1,0 +1,56 @@
+#pragma once
+
+#include "DockCore/Ports/Bundles.h"
+#include "Platform/Linux/FileContent.h"
+
+#include <QHash>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <mutex>
+
+namespace Linux {
+
+/// Application bundles as they lie on disk. What was read is kept and read again only when the disk says that it
+/// changed, which takes a few calls of `stat`, so that what is installed or removed later is noticed at the next
+/// question. A bundle that changes its identifier in place is noticed when it is asked for under either its path or its
+/// old identifier. Any thread may call it, several at a time; no lock is held while the disk is read.
+class Bundles : public DockCore::Bundles {
+public:
+    /// `searchFolders` gives the folders that `path` searches; by default those of the catalog.
+    explicit Bundles(std::function<QStringList()> searchFolders = catalogFolders);
+    ~Bundles() override;
+
+    /// From "Contents/Info.plist" of a folder whose name ends in ".app".
+    std::optional<QString> identifier(const QString& path) override;
+    /// The file name.
+    QString displayName(const QString& path) override;
+    /// Searches the folders and the folders up to three levels below them, never inside a bundle; what lies nearer to
+    /// the top comes first, and on one level the order of the folders counts, so that it agrees with the catalog's
+    /// scan.
+    std::optional<QString> path(const QString& identifier) override;
+
+private:
+    struct Reading {
+        FileStamp stamp;
+        std::optional<QString> identifier;
+    };
+    struct Index;
+
+    static QStringList catalogFolders();
+    std::shared_ptr<const Index> currentIndex();
+    bool isCurrent(const Index& index);
+    std::shared_ptr<const Index> build(const Index* previous);
+    quint64 version();
+
+    const std::function<QStringList()> m_searchFolders;
+    std::mutex m_lock;
+    /// By the path of the bundle.
+    QHash<QString, Reading> m_readings;
+    /// Counts the bundles that were found to have another identifier than before.
+    quint64 m_version = 0;
+    std::shared_ptr<const Index> m_index;
+};
+
+} // namespace Linux

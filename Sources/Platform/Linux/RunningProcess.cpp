@@ -1,0 +1,32 @@
+#include "Platform/Linux/RunningProcess.h"
+
+#include <QFile>
+
+#include <filesystem>
+
+using namespace Qt::StringLiterals;
+
+namespace Linux::RunningProcess {
+
+std::optional<DockCore::AppInfo> applicationAround(const QString& executable) {
+    for (qsizetype end = executable.lastIndexOf(u'/'); end > 0; end = executable.lastIndexOf(u'/', end - 1)) {
+        const QString folder = executable.first(end);
+        if (!folder.endsWith(".app"_L1))
+            continue;
+        if (const auto application = DockCore::AppInfo::fromBundle(folder))
+            return application;
+    }
+    return std::nullopt;
+}
+
+std::optional<DockCore::AppInfo> application(qint64 process) {
+    std::error_code error;
+    const auto link = std::filesystem::read_symlink("/proc/" + std::to_string(process) + "/exe", error);
+    if (error)
+        return std::nullopt;
+    // An update replaces a program while it runs; the kernel then says " (deleted)" behind the name, which changes
+    // nothing about the folders around it.
+    return applicationAround(QFile::decodeName(QByteArray::fromStdString(link.native())));
+}
+
+} // namespace Linux::RunningProcess

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "DockCore/AppInfo.h"
+
+#include <QString>
+
+#include <optional>
+
+/// Which application a process on this machine belongs to. Keeps nothing; any thread may call it.
+namespace Linux::RunningProcess {
+
+/// The innermost application bundle around the program at `executable`; nothing when it lies in none.
+std::optional<DockCore::AppInfo> applicationAround(const QString& executable);
+/// The application whose program the process runs; nothing when the process is gone, belongs to somebody else or runs a
+/// program outside any bundle.
+std::optional<DockCore::AppInfo> application(qint64 process);
+
+} // namespace Linux::RunningProcess

@@ -1,0 +1,89 @@
+#include "Platform/SelfTest.h"
+
+#include "DockCore/PropertyList.h"
+#include "Platform/Linux/Clock.h"
+#include "Platform/Linux/Folders.h"
+#include "Platform/Linux/Preferences.h"
+#include "Platform/Linux/X11Workspace.h"
+#include "Platform/Posix/Processes.h"
+#include "Platform/SelfTestReport.h"
+
+#include <QDBusConnection>
+#include <QSysInfo>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+using DockCore::PropertyList;
+using Verdict = SelfTestReport::Verdict;
+
+namespace {
+
+void tellSystem(SelfTestReport& report) {
+    report.add(Verdict::told, u"Kelvane"_s, QStringLiteral(KELVANE_VERSION));
+    report.add(Verdict::told, u"System"_s, QSysInfo::prettyProductName());
+    report.add(Verdict::told, u"Processor"_s, QSysInfo::currentCpuArchitecture());
+    report.add(Verdict::told, u"Qt"_s, QString::fromLatin1(qVersion()));
+}
+
+void tellDock(SelfTestReport& report) {
+    Linux::Preferences dock;
+    dock.synchronize();
+    const std::optional<PropertyList> tiles = dock.copyValue(u"persistent-apps"_s);
+    const QString items = tiles && tiles->array() != nullptr ? u", %1 tiles"_s.arg(tiles->array()->size()) : QString();
+    report.add(Verdict::told, u"The Dock's property list"_s, Linux::Preferences::defaultPath() + items);
+}
+
+void checkPreferences(SelfTestReport& report) {
+    const QTemporaryDir folder;
+    Linux::Preferences own(folder.filePath(u"own.plist"_s));
+    const QString key = u"SelfTest"_s;
+    const PropertyList value{PropertyList::Dictionary{
+        {u"text"_s, {u"ä€𝄞"_s}},
+        {u"number"_s, {qint64(-1)}},
+        {u"truth"_s, {true}},
+        {u"bytes"_s, {QByteArray("\0\xff", 2)}},
+        {u"list"_s, {PropertyList::Array{{u"one"_s}, {PropertyList::Dictionary{}}}}},
+    }};
+    own.setValue(key, value);
+    report.check(own.synchronize(), u"A value of our own is saved"_s);
+    report.check(own.copyValue(key) == value, u"It is read back as it was"_s);
+    own.setValue(key, std::nullopt);
+    report.check(own.synchronize() && !own.copyValue(key), u"It is removed again"_s);
+}
+
+void checkMachine(SelfTestReport& report) {
+    Linux::Folders folders;
+    report.check(!folders.home().isEmpty(), u"The home folder"_s, folders.home());
+    report.check(!folders.applicationSupport().isEmpty(), u"The folder for application data"_s,
+                 folders.applicationSupport());
+    report.check(Posix::Processes().run(u"/bin/sh"_s, {u"-c"_s, u"exit 7"_s}) == 7,
+                 u"A program runs and its status comes back"_s);
+    Linux::Clock clock;
+    const std::chrono::nanoseconds before = clock.elapsed();
+    report.check(clock.elapsed() >= before, u"Passed time does not go back"_s);
+}
+
+void tellSession(SelfTestReport& report) {
+    Linux::X11Workspace workspace;
+    const std::optional<Kelvane::RunningApplication> front = workspace.frontApplication();
+    report.add(Verdict::told, u"In front"_s,
+               front ? front->bundleID.value_or(front->name.value_or(u"without a name"_s)) : u"nothing"_s);
+    const auto idle = workspace.sinceLastInput();
+    report.add(Verdict::told, u"Since the last input"_s, idle ? u"%1 s"_s.arg(idle->count(), 0, 'f', 1) : u"unknown"_s);
+    report.add(Verdict::told, u"Session bus"_s,
+               QDBusConnection::sessionBus().isConnected() ? u"connected"_s : u"none"_s);
+}
+
+} // namespace
+
+int runSelfTest() {
+    SelfTestReport report;
+    tellSystem(report);
+    tellDock(report);
+    checkPreferences(report);
+    checkMachine(report);
+    tellSession(report);
+    QTextStream(stdout) << report.text();
+    return report.hasFailed() ? 1 : 0;
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+/// Asks the running system for everything this program needs of it and prints a table that a person can send back. It
+/// reads the real Dock and changes nothing of it. Gives the exit status for the process: 0 when all is there. Main
+/// thread; needs no application object.
+int runSelfTest();

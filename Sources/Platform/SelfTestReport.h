@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+/// The table of a self-test while it is being filled. It knows nothing of what is tested. One thread.
+class SelfTestReport {
+public:
+    enum class Verdict {
+        passed,
+        failed,
+        /// Told for the reader: neither good nor bad.
+        told,
+    };
+
+    void add(Verdict verdict, const QString& subject, const QString& finding = {});
+    /// Adds `passed` or `failed`.
+    void check(bool holds, const QString& subject, const QString& finding = {});
+
+    bool hasFailed() const;
+    /// Aligned lines, one a row, and a last line with the count.
+    QString text() const;
+
+private:
+    struct Row {
+        Verdict verdict;
+        QString subject;
+        QString finding;
+    };
+    QList<Row> m_rows;
+};
