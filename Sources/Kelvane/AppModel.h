@@ -1,0 +1,187 @@
+#pragma once
+
+#include "DockCore/AppInfo.h"
+#include "DockCore/DockTile.h"
+#include "DockCore/ProfileStore.h"
+#include "DockCore/Ranker.h"
+#include "DockCore/SnapshotStore.h"
+#include "DockCore/UsageStore.h"
+
+#include <QMap>
+#include <QObject>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace Kelvane {
+
+class LoginItem;
+class UsageTracker;
+class Workspace;
+
+/// A message that the window shows for a moment. A plain value.
+struct Toast {
+    QString text;
+    bool isError = false;
+    bool operator==(const Toast&) const = default;
+};
+
+/// How an operation on the Dock ended. A plain value.
+struct Outcome {
+    /// The toast's text, also where none was shown; empty when there was nothing to say.
+    QString text = {};
+    bool isError = false;
+    /// The Dock was written.
+    bool changed = false;
+    /// Another change was running, so nothing was done.
+    bool refused = false;
+    bool operator==(const Outcome&) const = default;
+};
+
+/// The panes of the main window, in the sidebar's order.
+enum class Pane { dock, usage, profiles, history, settings };
+
+/// The driver of the application: it owns the stores and all state that menu, window and command line show, and only it
+/// rewrites the Dock. Slow work runs on a thread pool over copies; its results come back to the main thread, where
+/// every function here is called. There is one a process, made and owned by `main`.
+class AppModel : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both ports may be null where there is no desktop: nothing is tracked then, and updates wait for nobody.
+    AppModel(Workspace* workspace, LoginItem* loginItem);
+    /// Waits for running background work.
+    ~AppModel() override;
+
+    // State, with a signal for each change.
+    const QList<DockCore::DockTile>& current() const { return m_current; }
+    const QList<DockCore::DockTile>& proposal() const { return m_proposal; }
+    const QMap<DockCore::UsageWindow, QList<DockCore::AppScore>>& rankings() const { return m_rankings; }
+    const QList<DockCore::Snapshot>& snapshots() const { return m_snapshots; }
+    const QList<DockCore::AppInfo>& installed() const { return m_installed; }
+    const QList<DockCore::Profile>& profiles() const { return m_store.profiles; }
+    const DockCore::AppSettings& settings() const { return m_store.settings; }
+    Pane pane() const { return m_pane; }
+    void setPane(Pane pane);
+    std::optional<Toast> toast() const { return m_toast; }
+    /// Clears the toast if it is still this one.
+    void dismiss(const Toast& toast);
+    int onboardingStep() const { return m_onboardingStep; }
+    void setOnboardingStep(int step);
+    bool isCapturing() const { return m_capturing; }
+    void setCapturing(bool capturing);
+    bool isWorking() const { return m_isWorking; }
+    bool launchAtLogin() const { return m_launchAtLogin; }
+    const DockCore::UsageStore& usage() const { return m_usage; }
+    DockCore::SnapshotStore& snapshotStore() { return m_snapshotStore; }
+    UsageTracker& tracker();
+
+    /// The profile that the settings name, else the first.
+    const DockCore::Profile& activeProfile() const { return m_store.active(); }
+    bool proposalMatchesDock() const;
+    /// The snapshot that `restorePrevious` would bring back, by the Dock as last read.
+    std::optional<DockCore::Snapshot> previousSnapshot() const;
+
+    /// Starts the resident application: saves the original Dock, starts the tracker and the schedule, refreshes. Once.
+    void start();
+    /// Saves the Dock as the original if none was saved yet; a failure is left for the next start.
+    void captureOriginal();
+    /// Reads the Dock, ranks in the background, then proposes. `then` runs afterwards on the main thread, unless a
+    /// later refresh has started meanwhile: then this one publishes nothing and `then` is dropped.
+    void refresh(std::function<void()> then = {});
+    void recomputeProposal();
+    QList<DockCore::DockTile> plan(const DockCore::Profile& profile) const;
+
+    enum class Apply { no, yes };
+    enum class Voice { silent, spoken };
+    /// Called once, on the main thread, when the operation is over; at once when there is nothing to wait for.
+    using Reply = std::function<void(const Outcome&)>;
+    /// Makes a profile the active one; with `Apply::yes` refreshes and then brings the Dock in line.
+    void activate(const QUuid& profile, Apply apply);
+    /// Brings the Dock in line with the active profile; nothing while another change runs.
+    void applyActive(Voice voice, Reply reply = {});
+    /// Puts a saved Dock back; nothing while another change runs. Automatic updates pause after it.
+    void restore(const DockCore::Snapshot& snapshot, Reply reply = {});
+    void restorePrevious(Reply reply = {});
+    void removeSnapshot(const DockCore::Snapshot& snapshot);
+
+    void update(const DockCore::Profile& profile);
+    DockCore::Profile addProfile();
+    DockCore::Profile duplicate(const DockCore::Profile& profile);
+    /// The last profile stays. By value: the identifier may be one of the list that this changes.
+    void removeProfile(QUuid profile);
+
+    void setTracking(bool on);
+    void setLaunchAtLogin(bool on);
+    void setAutoUpdate(DockCore::AutoUpdate interval);
+    void resumeAuto(Reply reply = {});
+    /// One look of the schedule: applies silently if an update is due and the user has paused.
+    void autoCheck();
+    /// Ends the first run; with `Apply::yes` applies the active profile at once.
+    void finishOnboarding(Apply apply);
+    void eraseUsage();
+
+Q_SIGNALS:
+    void currentChanged();
+    void proposalChanged();
+    void rankingsChanged();
+    void snapshotsChanged();
+    void installedChanged();
+    void profilesChanged();
+    void settingsChanged();
+    void paneChanged();
+    void toastChanged();
+    void onboardingStepChanged();
+    void isWorkingChanged();
+    void launchAtLoginChanged();
+    /// A refresh has published and its continuation has run.
+    void refreshed();
+
+private:
+    /// `work` runs in the background and may throw an Error; `done` runs afterwards on the main thread when it did not,
+    /// and gives the text to answer with.
+    void runDockChange(std::function<void()> work, std::function<QString()> done, Voice voice, Reply reply);
+    void readCurrent();
+    void detectManualChange();
+    void recordApplied(const QStringList& signature);
+    void show(const Toast& toast);
+    void conclude(const Outcome& outcome, Voice voice, const Reply& reply);
+    void saveSettings();
+    void saveProfiles();
+    void startSchedule();
+    bool isDue() const;
+
+    Workspace* m_workspace;
+    LoginItem* m_loginItem;
+    DockCore::UsageStore m_usage;
+    DockCore::ProfileStore m_store;
+    DockCore::SnapshotStore m_snapshotStore;
+    std::unique_ptr<UsageTracker> m_tracker;
+
+    QList<DockCore::DockTile> m_current;
+    QList<DockCore::DockTile> m_proposal;
+    QMap<DockCore::UsageWindow, QList<DockCore::AppScore>> m_rankings;
+    QList<DockCore::Snapshot> m_snapshots;
+    QList<DockCore::AppInfo> m_installed;
+    Pane m_pane = Pane::dock;
+    std::optional<Toast> m_toast;
+    int m_onboardingStep = 0;
+    bool m_capturing = false;
+    bool m_isWorking = false;
+    bool m_launchAtLogin = false;
+
+    QTimer m_autoTimer = QTimer(this);
+    /// When the Dock was last applied or confirmed by this process, on the clock that nobody sets.
+    std::optional<std::chrono::nanoseconds> m_appliedElapsed;
+    qint64 m_refreshGeneration = 0;
+    /// Set when the model goes, so that a background scan under way is not finished for nobody.
+    std::atomic<bool> m_isClosing = false;
+    QThreadPool m_pool;
+};
+
+} // namespace Kelvane
