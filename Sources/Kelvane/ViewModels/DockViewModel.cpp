@@ -1,0 +1,127 @@
+#include "Kelvane/ViewModels/DockViewModel.h"
+
+#include "DockCore/AppCatalog.h"
+#include "DockCore/Platform.h"
+#include "DockCore/Ports/Clock.h"
+#include "Kelvane/AppModel.h"
+#include "Kelvane/ViewModels/DockText.h"
+#include "Kelvane/ViewModels/ViewContext.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace Kelvane {
+
+using namespace Qt::StringLiterals;
+using DockCore::AppCatalog;
+using DockCore::DockDiff;
+using DockCore::DockTile;
+
+DockViewModel::DockViewModel(AppModel& model, QObject* parent)
+    : QObject(parent)
+    , m_model(model) {
+    connect(&model, &AppModel::currentChanged, this, &DockViewModel::updateTiles);
+    connect(&model, &AppModel::proposalChanged, this, &DockViewModel::updateTiles);
+    connect(&model, &AppModel::rankingsChanged, this, &DockViewModel::changed);
+    connect(&model, &AppModel::profilesChanged, this, &DockViewModel::updateProfiles);
+    connect(&model, &AppModel::settingsChanged, this, &DockViewModel::updateProfiles);
+    updateProfiles();
+}
+
+DockViewModel* DockViewModel::create(QQmlEngine*, QJSEngine*) {
+    return new DockViewModel(ViewContext::current().model);
+}
+
+int DockViewModel::activeRow() const {
+    const QList<ProfileListRow>& rows = m_profiles.rows();
+    const auto active = std::find_if(rows.begin(), rows.end(), [](const ProfileListRow& row) { return row.isActive; });
+    return active == rows.end() ? -1 : static_cast<int>(active - rows.begin());
+}
+
+QString DockViewModel::nowCaption() const {
+    return DockText::count(m_now.count());
+}
+
+QString DockViewModel::suggestedTitle() const {
+    return u"Suggested for "_s + m_model.activeProfile().name;
+}
+
+QString DockViewModel::suggestion() const {
+    const DockCore::Profile& profile = m_model.activeProfile();
+    const QSet<QString> pinned(profile.pinned.begin(), profile.pinned.end());
+    const auto installed = std::count_if(pinned.begin(), pinned.end(), [](const QString& bundleID) {
+        return AppCatalog::shared().isInstalled(bundleID);
+    });
+    return DockText::suggestion(installed, profile.adaptiveSlots, profile.window);
+}
+
+QString DockViewModel::emptyText() const {
+    return DockText::empty(m_model.activeProfile().name);
+}
+
+QString DockViewModel::dataNote() const {
+    const DockCore::UsageWindow window = m_model.activeProfile().window;
+    const QDateTime now = DockCore::Platform::current().clock.now();
+    return DockText::data(m_model.usage().trackedDays(window, now), window);
+}
+
+QString DockViewModel::leavingLine() const {
+    QStringList names;
+    for (const TileRow& row : m_now.rows()) {
+        if (row.mark == TileRow::Mark::leaving)
+            names.append(row.name);
+    }
+    return DockText::leaving(names);
+}
+
+QString DockViewModel::editText() const {
+    return u"Edit "_s + m_model.activeProfile().name;
+}
+
+bool DockViewModel::matches() const {
+    return m_model.proposalMatchesDock();
+}
+
+bool DockViewModel::isDense() const {
+    const auto apps = [](const TileListModel& tiles) {
+        return std::count_if(tiles.rows().begin(), tiles.rows().end(),
+                             [](const TileRow& row) { return !row.isSpacer; });
+    };
+    return std::max(apps(m_now), apps(m_suggested)) > mostRoomy;
+}
+
+void DockViewModel::chooseRow(int row) {
+    if (row >= 0 && row < m_profiles.rowCount())
+        m_model.activate(m_profiles.rows()[row].id, AppModel::Apply::no);
+}
+
+void DockViewModel::editProfile() {
+    m_model.setPane(Pane::profiles);
+}
+
+void DockViewModel::apply() {
+    m_model.applyActive(AppModel::Voice::spoken);
+}
+
+void DockViewModel::resume() {
+    m_model.resumeAuto();
+}
+
+void DockViewModel::updateTiles() {
+    const QList<DockTile>& current = m_model.current();
+    const QList<DockTile>& proposal = m_model.proposal();
+    // Before the first proposal, and for a profile that yields none, nothing is said to leave: such a Dock is never
+    // applied.
+    m_diff = proposal.isEmpty() ? DockDiff() : DockDiff(current, proposal);
+    m_now.setTiles(TileListModel::current(current, m_diff));
+    m_suggested.setTiles(TileListModel::proposed(proposal, current, m_diff, m_model.activeProfile().pinned));
+    Q_EMIT changed();
+}
+
+void DockViewModel::updateProfiles() {
+    m_profiles.setProfiles(m_model.profiles(), m_model.activeProfile().id);
+    updateTiles();
+}
+
+} // namespace Kelvane

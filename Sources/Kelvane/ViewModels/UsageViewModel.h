@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Kelvane/ViewModels/DayChartModel.h"
+#include "Kelvane/ViewModels/RankingModel.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+namespace Kelvane {
+
+class AppModel;
+
+/// What the usage pane shows: the ranking over one of the windows and the days it was measured on.
+/// The window chosen here changes no profile. Main thread only.
+class UsageViewModel : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QList<QString> windows READ windows CONSTANT)
+    Q_PROPERTY(int windowIndex READ windowIndex WRITE setWindowIndex NOTIFY changed)
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY changed)
+    Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed)
+    Q_PROPERTY(QString total READ total NOTIFY changed)
+    /// "active · Last 7 days".
+    Q_PROPERTY(QString totalCaption READ totalCaption NOTIFY changed)
+    Q_PROPERTY(Kelvane::RankingModel* ranking READ ranking CONSTANT)
+    Q_PROPERTY(Kelvane::DayChartModel* days READ days CONSTANT)
+    /// The application whose row tells why it stands where it stands; empty when none does.
+    Q_PROPERTY(QString openedApp MEMBER m_openedApp NOTIFY openedAppChanged)
+    /// The pane has not been shown yet: its bars grow this once.
+    Q_PROPERTY(bool firstShow MEMBER m_firstShow NOTIFY firstShowChanged)
+
+public:
+    explicit UsageViewModel(AppModel& model, QObject* parent = nullptr);
+
+    QStringList windows() const;
+    int windowIndex() const;
+    void setWindowIndex(int index);
+    QString subtitle() const;
+    bool isEmpty() const { return m_ranking.rowCount() == 0; }
+    QString total() const;
+    QString totalCaption() const;
+    RankingModel* ranking() { return &m_ranking; }
+    DayChartModel* days() { return &m_days; }
+
+Q_SIGNALS:
+    void changed();
+    void openedAppChanged();
+    void firstShowChanged();
+
+private:
+    void reload();
+
+    AppModel& m_model;
+    DockCore::UsageWindow m_window = DockCore::UsageWindow::week;
+    RankingModel m_ranking;
+    DayChartModel m_days;
+    QString m_openedApp;
+    bool m_firstShow = true;
+};
+
+} // namespace Kelvane
