@@ -1,0 +1,54 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Kelvane
+
+// One figure of the change summary, with the disc that is its legend.
+Item {
+    id: root
+
+    required property string mark
+    required property int count
+    required property string label
+    // Only the number: for bars without room for words.
+    property bool terse: false
+    readonly property alias hovered: hover.hovered
+
+    readonly property real fullWidth: words.x + words.implicitWidth
+
+    implicitWidth: root.terse ? figure.x + figure.width : root.fullWidth
+    implicitHeight: Math.max(18, Theme.figure.lineHeight)
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.count + " " + root.label
+
+    ChangeMark {
+        id: disc
+        anchors.verticalCenter: parent.verticalCenter
+        mark: root.mark
+        idle: root.count === 0
+    }
+    Label {
+        id: figure
+        x: 25
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.count
+        type: root.count === 0 ? Theme.figureZero : Theme.figure
+        color: root.count === 0 ? Theme.text3 : Theme.text
+        Accessible.ignored: true
+    }
+    Label {
+        id: words
+        x: figure.x + figure.width + 7
+        anchors.verticalCenter: parent.verticalCenter
+        visible: !root.terse
+        text: root.label
+        color: Theme.text2
+        Accessible.ignored: true
+    }
+    HoverHandler {
+        id: hover
+    }
+    ToolTip {
+        text: root.label
+        visible: root.terse && hover.hovered
+    }
+}

@@ -1,0 +1,39 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Kelvane
+
+// As many icons as fit in a row, then how many more there are.
+Item {
+    id: root
+
+    required property list<string> icons
+    property real size: 30
+    property real gap: 4
+    property int most: 1000
+    readonly property int fitting: Math.floor((root.width + root.gap) / (root.size + root.gap))
+    readonly property int wanted: Math.min(root.icons.length, root.most)
+    readonly property int shown: root.wanted <= root.fitting ? root.wanted : Math.max(0, root.fitting - 1)
+
+    implicitHeight: root.size
+    implicitWidth: Math.max(0, root.wanted * (root.size + root.gap) - root.gap)
+
+    Row {
+        spacing: root.gap
+        Repeater {
+            model: root.shown
+            AppIcon {
+                required property int index
+                readonly property string address: root.icons[index] ?? ""
+                size: root.size
+                source: address
+            }
+        }
+        Label {
+            visible: root.shown < root.wanted
+            height: root.size
+            text: "+" + (root.icons.length - root.shown)
+            type: Theme.caption
+            color: Theme.text2
+        }
+    }
+}

@@ -1,0 +1,62 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Kelvane
+
+// A drawn Dock: tiles on a plate, in rows. It never scrolls; it is as high as its tiles need.
+Rectangle {
+    id: root
+
+    required property TileListModel tiles
+    required property bool suggested
+    property bool dense: false
+    property string emptyText: ""
+    // One of the marks; tiles without it step back.
+    property string highlight: ""
+    readonly property color plate: root.suggested ? Theme.surface : Theme.shelf
+
+    implicitHeight: Math.max(tileMetrics.height, flow.height) + 17
+    radius: 18
+    color: root.plate
+    border.width: root.suggested ? 1 : 0
+    border.color: Theme.line
+    Accessible.role: Accessible.List
+
+    TileMetrics {
+        id: tileMetrics
+        plateWidth: root.width
+        dense: root.dense
+    }
+    Flow {
+        id: flow
+        x: 16
+        y: 9
+        width: root.width - 32
+
+        Repeater {
+            model: root.tiles
+            delegate: TileView {
+                metrics: tileMetrics
+                plate: root.plate
+                faded: root.highlight !== "" && !mark.startsWith(root.highlight)
+            }
+        }
+        // A tile that has to make room while it arrives goes on arriving.
+        move: Transition {
+            NumberAnimation { properties: "x,y"; duration: Theme.tileTime; easing.type: Easing.OutCubic }
+            NumberAnimation { property: "presence"; to: 1; duration: Theme.tileTime; easing.type: Easing.OutCubic }
+        }
+        add: Transition {
+            NumberAnimation { property: "presence"; from: 0; to: 1; duration: Theme.tileTime; easing.type: Easing.OutCubic }
+        }
+    }
+    Label {
+        anchors.centerIn: parent
+        width: Math.min(implicitWidth, root.width - 48)
+        visible: root.tiles.count === 0 && root.emptyText !== ""
+        text: root.emptyText
+        type: Theme.caption
+        color: Theme.text2
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+    }
+}

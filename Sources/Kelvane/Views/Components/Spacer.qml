@@ -1,0 +1,6 @@
+import QtQuick
+
+// Room between two blocks.
+Item {
+    width: 1
+}

@@ -1,0 +1,131 @@
+#include "Kelvane/Views/MainWindow.h"
+
+#include "Kelvane/Ports/Desktop.h"
+#include "Kelvane/Views/IconProvider.h"
+#include "Kelvane/Views/ShadowProvider.h"
+#include "Kelvane/Views/SymbolProvider.h"
+#include "Kelvane/Views/WindowFrame.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QScreen>
+
+/// What the QML module's registration is called; a static library would lose it unasked.
+// NOLINTNEXTLINE(readability-identifier-naming): the name is made by Qt from the module's.
+extern void qml_register_types_Kelvane();
+
+namespace Kelvane {
+
+using namespace Qt::StringLiterals;
+
+MainWindow::MainWindow(AppModel& model, Desktop& desktop)
+    : m_context{model, desktop}
+    , m_scope(m_context)
+    , m_desktop(desktop) {}
+
+MainWindow::~MainWindow() {
+    if (m_window && m_window->isVisible())
+        WindowFrame::save(m_window->geometry());
+}
+
+void MainWindow::show() {
+    if (!m_window)
+        make();
+    if (!m_window)
+        return;
+    const bool wasVisible = m_window->isVisible();
+    if (m_window->visibility() == QWindow::Minimized)
+        m_window->showNormal();
+    else
+        m_window->show();
+    if (wasVisible)
+        m_window->raise();
+    m_window->requestActivate();
+}
+
+void MainWindow::close() {
+    if (m_window)
+        m_window->close();
+}
+
+void MainWindow::minimize() {
+    if (m_window)
+        m_window->showMinimized();
+}
+
+bool MainWindow::isVisible() const {
+    return m_window && m_window->isVisible();
+}
+
+std::optional<QImage> MainWindow::grab() const {
+    if (!m_window)
+        return std::nullopt;
+    const QImage content = m_window->grabWindow();
+    if (content.isNull())
+        return std::nullopt;
+    const QPalette palette = QGuiApplication::palette();
+    const bool dark = palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
+    QImage image(content.size(), QImage::Format_RGB32);
+    image.fill(QColor::fromRgbF(dark ? 0.12F : 0.97F, dark ? 0.12F : 0.97F, dark ? 0.12F : 0.97F));
+    QPainter(&image).drawImage(image.rect(), content);
+    return image;
+}
+
+void MainWindow::setContent(AppFacade::Content content) {
+    if (!m_engine)
+        return;
+    const int type = qmlTypeId("Kelvane", 1, 0, "App");
+    if (auto* facade = m_engine->singletonInstance<AppFacade*>(type))
+        facade->setContent(content);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_window && event->type() == QEvent::Close) {
+        WindowFrame::save(m_window->geometry());
+        Q_EMIT closing();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void MainWindow::make() {
+    qml_register_types_Kelvane();
+    m_engine = std::make_unique<QQmlApplicationEngine>();
+    // The engine owns them and goes first.
+    m_engine->addImageProvider(u"symbol"_s, new SymbolProvider(m_desktop));
+    m_engine->addImageProvider(u"icon"_s, new IconProvider(m_desktop));
+    m_engine->addImageProvider(u"shadow"_s, new ShadowProvider);
+    m_engine->addImportPath(u":/qt/qml"_s);
+    m_engine->load(QUrl(u"qrc:/qt/qml/Kelvane/MainWindow.qml"_s));
+    if (m_engine->rootObjects().isEmpty())
+        return;
+    m_window = qobject_cast<QQuickWindow*>(m_engine->rootObjects().constFirst());
+    if (!m_window)
+        return;
+    m_window->installEventFilter(this);
+    connect(m_window, &QWindow::activeChanged, this, [this] {
+        if (m_window->isActive())
+            Q_EMIT becameKey();
+    });
+    place();
+    m_desktop.prepareMainWindow(*m_window);
+}
+
+void MainWindow::place() {
+    const std::optional<QRect> remembered = WindowFrame::load();
+    const QScreen* screen = remembered ? QGuiApplication::screenAt(remembered->center()) : nullptr;
+    if (screen != nullptr) {
+        m_window->setGeometry(QRect(remembered->topLeft(), remembered->size().expandedTo(m_window->minimumSize())));
+        return;
+    }
+    if (m_window->screen() != nullptr) {
+        QRect frame(QPoint(), m_window->size());
+        frame.moveCenter(m_window->screen()->availableGeometry().center());
+        m_window->setGeometry(frame);
+    }
+}
+
+} // namespace Kelvane

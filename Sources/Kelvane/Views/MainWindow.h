@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Kelvane/ViewModels/AppFacade.h"
+#include "Kelvane/ViewModels/ViewContext.h"
+
+#include <QImage>
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+#include <optional>
+
+class QQmlApplicationEngine;
+class QQuickWindow;
+
+namespace Kelvane {
+
+/// The main window. It is made the first time it is shown, with all of QML, and kept when it is closed; where it was is
+/// remembered in the support folder. Destroy it before the application object. Main thread only.
+class MainWindow : public QObject {
+    Q_OBJECT
+
+public:
+    /// Model and desktop outlive the window.
+    MainWindow(AppModel& model, Desktop& desktop);
+    ~MainWindow() override;
+
+    /// Brings the window to the front, wherever it was; the first time it makes it.
+    void show();
+    void close();
+    void minimize();
+    bool isVisible() const;
+    /// What the window shows now, in its screen's resolution, on the gray of its appearance; nothing without a window.
+    std::optional<QImage> grab() const;
+    /// Shows the panes or the first run whatever the settings say, for pictures.
+    void setContent(AppFacade::Content content);
+
+Q_SIGNALS:
+    /// The window has become the one that takes the keys.
+    void becameKey();
+    /// The window is about to be hidden.
+    void closing();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void make();
+    void place();
+
+    ViewContext m_context;
+    ViewContextScope m_scope;
+    Desktop& m_desktop;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QPointer<QQuickWindow> m_window;
+};
+
+} // namespace Kelvane

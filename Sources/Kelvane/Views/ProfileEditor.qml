@@ -1,0 +1,93 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Kelvane
+
+// Everything about the selected profile; each edit is saved at once.
+Item {
+    id: root
+
+    function focusName() {
+        scroll.contentY = 0;
+        nameCard.focusName();
+    }
+    function askToDelete() {
+        confirmation.open();
+    }
+
+    Flickable {
+        id: scroll
+        objectName: "editor"
+        width: root.width
+        height: root.height - Theme.barHeight
+        clip: true
+        contentHeight: sections.y + sections.height + 28
+        boundsBehavior: Flickable.StopAtBounds
+        T.ScrollBar.vertical: ScrollBar {}
+
+        Column {
+            id: sections
+            x: 28
+            y: 28
+            width: scroll.width - 56
+            spacing: 26
+
+            ProfileNameCard {
+                id: nameCard
+                width: parent.width
+            }
+            AppSection {
+                width: parent.width
+                title: "Always in the Dock"
+                explanation: "These come first, in this order, whatever your usage."
+                apps: ProfilesViewModel.editor.pinned
+                emptyText: "None. The whole Dock is chosen by usage."
+                ordered: true
+                onAddRequested: {
+                    ProfilesViewModel.picker.openForPinned();
+                    picker.open();
+                }
+                onRemoveRequested: row => ProfilesViewModel.editor.removePinned(row)
+                onMoveRequested: (from, to) => ProfilesViewModel.editor.move(from, to)
+            }
+            FillSection {
+                width: parent.width
+            }
+            AppSection {
+                width: parent.width
+                title: "Never in the Dock"
+                explanation: "Keep these out of this profile even when you use them a lot, like chat apps in Personal."
+                apps: ProfilesViewModel.editor.excluded
+                onAddRequested: {
+                    ProfilesViewModel.picker.openForExcluded();
+                    picker.open();
+                }
+                onRemoveRequested: row => ProfilesViewModel.editor.removeExcluded(row)
+            }
+            PreviewSection {
+                width: parent.width
+            }
+        }
+    }
+    EditorBar {
+        anchors.bottom: parent.bottom
+        width: root.width
+        onDeleteRequested: root.askToDelete()
+    }
+    Shortcut {
+        sequence: "Ctrl+Z"
+        enabled: ProfilesViewModel.editor.undoText !== "" && !nameCard.editing && !picker.visible
+        onActivated: ProfilesViewModel.editor.undoRemove()
+    }
+    AppPicker {
+        id: picker
+    }
+    Confirmation {
+        id: confirmation
+        title: "Delete this profile?"
+        text: "Your Dock stays as it is."
+        action: "Delete"
+        destructive: true
+        onAccepted: ProfilesViewModel.removeSelected()
+    }
+}

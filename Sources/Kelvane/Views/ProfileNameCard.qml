@@ -1,0 +1,73 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Kelvane
+
+// What the profile is called and which symbol stands for it.
+Card {
+    id: root
+
+    readonly property alias editing: field.activeFocus
+    readonly property real controlsWidth: root.width - 94
+    readonly property int perRow: root.controlsWidth >= 12 * 30 ? 12 : 6
+
+    function focusName() {
+        field.forceActiveFocus(Qt.TabFocusReason);
+        field.selectAll();
+    }
+
+    Item {
+        width: root.width
+        height: 48
+
+        Label {
+            x: 16
+            anchors.verticalCenter: parent.verticalCenter
+            text: "Name"
+            Accessible.ignored: true
+        }
+        TextEntry {
+            id: field
+            label: "Name"
+            x: 80
+            width: root.controlsWidth
+            anchors.verticalCenter: parent.verticalCenter
+            text: ProfilesViewModel.editor.name
+            onTextEdited: ProfilesViewModel.editor.name = text
+        }
+    }
+    Hairline {
+        x: 16
+        width: root.width - 16
+    }
+    Item {
+        width: root.width
+        height: icons.height + 18
+
+        Label {
+            x: 16
+            y: 15
+            text: "Icon"
+            Accessible.ignored: true
+        }
+        Grid {
+            id: icons
+            x: 80
+            y: 9
+            columns: root.perRow
+            columnSpacing: (root.controlsWidth - columns * 30) / (columns - 1)
+            rowSpacing: 4
+            Accessible.role: Accessible.Grouping
+            Accessible.name: "Icon"
+
+            Repeater {
+                model: ProfilesViewModel.editor.symbols
+                SymbolChoice {
+                    required property string modelData
+                    symbol: modelData
+                    chosen: ProfilesViewModel.editor.symbol === modelData
+                    onClicked: ProfilesViewModel.editor.symbol = modelData
+                }
+            }
+        }
+    }
+}

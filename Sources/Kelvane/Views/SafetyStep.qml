@@ -1,0 +1,84 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Kelvane
+
+// The Dock is saved; how it is kept in step from now on.
+Item {
+    id: root
+
+    readonly property real startY: Math.max(24, Math.min(96, (root.height - 364) / 2))
+
+    StepTitle {
+        id: title
+        y: root.startY
+        width: root.width
+        title: "Your Dock is safe"
+    }
+    SavedDock {
+        id: plate
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: title.y + title.height + 28
+        width: 640
+    }
+    Item {
+        id: saved
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: plate.y + plate.height + 20
+        width: words.x + words.width
+        height: words.height
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            name: "info.circle"
+            size: 18
+            tint: Theme.accentText
+        }
+        Label {
+            id: words
+            x: 26
+            width: Math.min(implicitWidth, root.width - 120)
+            text: "We saved your current Dock as “Original”. Bring it back any time from the menu bar or History."
+            type: Theme.leadSmall
+            color: Theme.text2
+            wrapMode: Text.Wrap
+        }
+    }
+    Card {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: saved.y + saved.height + 32
+        width: 640
+
+        FormRow {
+            minimumHeight: 56
+            label: FirstRunViewModel.suggestionTitle
+            ChangeSummary {
+                added: FirstRunViewModel.addedCount
+                leaving: FirstRunViewModel.leavingCount
+                moved: FirstRunViewModel.movedCount
+                leavingLine: ""
+            }
+        }
+        FormRow {
+            minimumHeight: 56
+            divided: true
+            label: "Reorganize automatically"
+            MenuButton {
+                label: "Reorganize automatically"
+                inCard: true
+                model: FirstRunViewModel.schedules
+                currentIndex: FirstRunViewModel.scheduleIndex
+                onActivated: index => FirstRunViewModel.scheduleIndex = index
+            }
+        }
+        FormRow {
+            minimumHeight: 56
+            divided: true
+            label: "Open at login (recommended, so usage is counted)"
+            Switch {
+                text: "Open at login (recommended, so usage is counted)"
+                checked: FirstRunViewModel.opensAtLogin
+                onToggled: FirstRunViewModel.opensAtLogin = checked
+            }
+        }
+    }
+}

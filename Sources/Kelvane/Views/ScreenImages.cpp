@@ -1,0 +1,67 @@
+#include "Kelvane/Views/ScreenImages.h"
+
+#include "Kelvane/AppModel.h"
+#include "Kelvane/Views/MainWindow.h"
+
+#include <QDir>
+#include <QTimer>
+
+namespace Kelvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int firstRunSteps = 3;
+const QStringList panes = {u"dock"_s, u"usage"_s, u"profiles"_s, u"history"_s, u"settings"_s};
+} // namespace
+
+ScreenImages::ScreenImages(AppModel& model, Desktop& desktop, MainWindow& window, const QString& folder)
+    : m_model(model)
+    , m_desktop(desktop)
+    , m_window(window)
+    , m_folder(folder) {
+    for (const Desktop::Appearance appearance : {Desktop::Appearance::light, Desktop::Appearance::dark}) {
+        const QString suffix = appearance == Desktop::Appearance::light ? u"-light"_s : u"-dark"_s;
+        for (int step = 0; step < firstRunSteps; ++step)
+            m_shots.append({u"onboarding-"_s + QString::number(step + 1) + suffix, appearance,
+                            AppFacade::Content::firstRun, step});
+        for (int pane = 0; pane < panes.size(); ++pane)
+            m_shots.append({panes[pane] + suffix, appearance, AppFacade::Content::panes, pane});
+    }
+}
+
+QStringList ScreenImages::names() const {
+    QStringList names;
+    for (const Shot& shot : m_shots)
+        names.append(shot.name);
+    return names;
+}
+
+void ScreenImages::start() {
+    QDir().mkpath(m_folder);
+    m_model.setCapturing(true);
+    m_window.show();
+    prepare(0);
+}
+
+void ScreenImages::prepare(qsizetype index) {
+    const Shot& shot = m_shots[index];
+    m_desktop.setAppearance(shot.appearance);
+    m_window.setContent(shot.content);
+    if (shot.content == AppFacade::Content::firstRun)
+        m_model.setOnboardingStep(shot.place);
+    else
+        m_model.setPane(static_cast<Pane>(shot.place));
+    QTimer::singleShot(settling, this, [this, index] { take(index); });
+}
+
+void ScreenImages::take(qsizetype index) {
+    if (const std::optional<QImage> image = m_window.grab())
+        image->save(m_folder + u'/' + m_shots[index].name + u".png"_s, "PNG");
+    if (index + 1 < m_shots.size())
+        prepare(index + 1);
+    else
+        Q_EMIT finished();
+}
+
+} // namespace Kelvane

@@ -1,0 +1,59 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Window
+import Kelvane
+
+// What this application is for, in four points.
+Item {
+    id: root
+
+    readonly property real startY: Math.max(24, Math.min(84, (root.height - 388) / 2))
+
+    Image {
+        id: mark
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: root.startY
+        width: 88
+        height: 88
+        sourceSize.width: 88 * Screen.devicePixelRatio
+        sourceSize.height: 88 * Screen.devicePixelRatio
+        source: "image://symbol/kelvane-mark/regular/none"
+        Accessible.ignored: true
+    }
+    StepTitle {
+        id: title
+        y: mark.y + mark.height + 28
+        width: root.width
+        title: "A Dock that keeps up with you"
+        text: "Kelvane reorganizes your Dock around the apps you actually use."
+        type: Theme.lead
+    }
+    Grid {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: title.y + title.height + 52
+        columns: 2
+        columnSpacing: 40
+        rowSpacing: 32
+
+        WelcomePoint {
+            symbol: "chart.bar.fill"
+            title: "Promotes what you use"
+            text: "Ranks apps by your last 7 or 30 days and moves them up front."
+        }
+        WelcomePoint {
+            symbol: "square.stack.3d.up.fill"
+            title: "Profiles for every mode"
+            text: "Work, Coding, Meeting and Personal. Switch from the menu bar."
+        }
+        WelcomePoint {
+            symbol: "arrow.uturn.backward.circle.fill"
+            title: "One-click undo"
+            text: "Every change is saved first. Restore any earlier Dock."
+        }
+        WelcomePoint {
+            symbol: "lock.shield.fill"
+            title: "Private by design"
+            text: "Your usage never leaves this Mac. No account, no cloud."
+        }
+    }
+}
