@@ -1,0 +1,89 @@
+#include "Kelvane/Shell/AppDelegate.h"
+
+#include "Kelvane/AppModel.h"
+#include "Kelvane/Ports/Desktop.h"
+#include "Kelvane/Shell/MenuSymbol.h"
+#include "Kelvane/UsageTracker.h"
+#include "Kelvane/Views/MainWindow.h"
+#include "Kelvane/Views/ScreenImages.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+using namespace Qt::StringLiterals;
+
+namespace Kelvane {
+
+AppDelegate::AppDelegate(AppModel& model, Desktop& desktop)
+    : m_model(model)
+    , m_desktop(desktop)
+    , m_statusMenu(model, [&desktop](const QString& name) { return MenuSymbol::icon(desktop, name); }) {
+    connect(&m_statusMenu, &StatusMenu::openRequested, this, &AppDelegate::showWindow);
+    connect(&m_statusMenu, &StatusMenu::quitRequested, qApp, &QCoreApplication::quit);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { m_model.tracker().flush(); });
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, &AppDelegate::reopen);
+}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::finishLaunching(Window window) {
+    m_desktop.setActivationPolicy(Desktop::ActivationPolicy::accessory);
+    m_model.start();
+    makeStatusItem();
+    if (!m_model.settings().onboarded || window == Window::show)
+        showWindow();
+    if (const QString folder = qEnvironmentVariable("KELVANE_SHOTS"); !folder.isEmpty()) {
+        showWindow();
+        m_screenImages = std::make_unique<ScreenImages>(m_model, m_desktop, *m_window, folder);
+        connect(m_screenImages.get(), &ScreenImages::finished, qApp, &QCoreApplication::quit);
+        m_screenImages->start();
+    }
+}
+
+void AppDelegate::makeStatusItem() {
+    m_statusItem.setIcon(MenuSymbol::icon(m_desktop, u"dock.rectangle"_s, u"Kelvane"_s));
+    m_statusItem.setToolTip(u"Kelvane"_s);
+    m_statusItem.setContextMenu(&m_statusMenu.menu());
+    m_statusItem.show();
+}
+
+void AppDelegate::makeMainMenu() {
+    m_mainMenu = std::make_unique<MainMenu>();
+    connect(m_mainMenu.get(), &MainMenu::quitRequested, qApp, &QCoreApplication::quit);
+    connect(m_mainMenu.get(), &MainMenu::aboutRequested, this, &AppDelegate::showAbout);
+    connect(m_mainMenu.get(), &MainMenu::hideRequested, this, [this] { m_window->close(); });
+    connect(m_mainMenu.get(), &MainMenu::closeRequested, this, [this] { m_window->close(); });
+    connect(m_mainMenu.get(), &MainMenu::minimizeRequested, this, [this] { m_window->minimize(); });
+}
+
+void AppDelegate::makeWindow() {
+    makeMainMenu();
+    m_window = std::make_unique<MainWindow>(m_model, m_desktop);
+    connect(m_window.get(), &MainWindow::becameKey, this, [this] { m_model.refresh(); });
+    connect(m_window.get(), &MainWindow::closing, this,
+            [this] { m_desktop.setActivationPolicy(Desktop::ActivationPolicy::accessory); });
+}
+
+void AppDelegate::showWindow() {
+    if (!m_window)
+        makeWindow();
+    m_desktop.setActivationPolicy(Desktop::ActivationPolicy::regular);
+    m_model.refresh();
+    m_window->show();
+}
+
+void AppDelegate::reopen(Qt::ApplicationState state) {
+    if (state == Qt::ApplicationInactive)
+        m_hasBeenInBackground = true;
+    // The activation that comes with the launch itself opens nothing.
+    if (state == Qt::ApplicationActive && m_hasBeenInBackground && (!m_window || !m_window->isVisible()))
+        showWindow();
+}
+
+void AppDelegate::showAbout() {
+    QMessageBox::about(nullptr, u"About Kelvane"_s,
+                       u"<b>Kelvane %1</b><p>Keeps the Dock in step with how you work.</p>"_s.arg(
+                           QCoreApplication::applicationVersion()));
+}
+
+} // namespace Kelvane

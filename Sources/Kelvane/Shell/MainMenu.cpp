@@ -1,0 +1,83 @@
+#include "Kelvane/Shell/MainMenu.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QKeyEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace Kelvane {
+
+namespace {
+/// Text fields of every kind offer these as invokable functions of the same name.
+void tellFocus(const char* function) {
+    if (QObject* focus = QGuiApplication::focusObject())
+        QMetaObject::invokeMethod(focus, function);
+}
+
+void add(QMenu& menu, const QString& title, const QKeySequence& key, const char* function) {
+    QAction* action = menu.addAction(title, key);
+    action->setMenuRole(QAction::NoRole);
+    QObject::connect(action, &QAction::triggered, [function] { tellFocus(function); });
+}
+} // namespace
+
+MainMenu::MainMenu() {
+    addApplicationMenu();
+    addEditMenu();
+    addWindowMenu();
+    if (!m_bar.isNativeMenuBar())
+        qApp->installEventFilter(this);
+}
+
+void MainMenu::addApplicationMenu() {
+    QMenu& menu = *m_bar.addMenu(u"Kelvane"_s);
+    QAction* about = menu.addAction(u"About Kelvane"_s);
+    about->setMenuRole(QAction::AboutRole);
+    connect(about, &QAction::triggered, this, &MainMenu::aboutRequested);
+    menu.addSeparator();
+    QAction* hide = menu.addAction(u"Hide Kelvane"_s, QKeySequence(Qt::CTRL | Qt::Key_H));
+    connect(hide, &QAction::triggered, this, &MainMenu::hideRequested);
+    QAction* quit = menu.addAction(u"Quit Kelvane"_s, QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quit->setMenuRole(QAction::QuitRole);
+    connect(quit, &QAction::triggered, this, &MainMenu::quitRequested);
+}
+
+void MainMenu::addEditMenu() {
+    QMenu& menu = *m_bar.addMenu(u"Edit"_s);
+    add(menu, u"Undo"_s, QKeySequence(Qt::CTRL | Qt::Key_Z), "undo");
+    add(menu, u"Redo"_s, QKeySequence(Qt::SHIFT | Qt::CTRL | Qt::Key_Z), "redo");
+    menu.addSeparator();
+    add(menu, u"Cut"_s, QKeySequence(Qt::CTRL | Qt::Key_X), "cut");
+    add(menu, u"Copy"_s, QKeySequence(Qt::CTRL | Qt::Key_C), "copy");
+    add(menu, u"Paste"_s, QKeySequence(Qt::CTRL | Qt::Key_V), "paste");
+    add(menu, u"Select All"_s, QKeySequence(Qt::CTRL | Qt::Key_A), "selectAll");
+}
+
+void MainMenu::addWindowMenu() {
+    QMenu& menu = *m_bar.addMenu(u"Window"_s);
+    QAction* close = menu.addAction(u"Close"_s, QKeySequence(Qt::CTRL | Qt::Key_W));
+    connect(close, &QAction::triggered, this, &MainMenu::closeRequested);
+    QAction* minimize = menu.addAction(u"Minimize"_s, QKeySequence(Qt::CTRL | Qt::Key_M));
+    connect(minimize, &QAction::triggered, this, &MainMenu::minimizeRequested);
+}
+
+bool MainMenu::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !watched->isWindowType())
+        return QObject::eventFilter(watched, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const QKeySequence pressed(key->keyCombination());
+    const QList<QMenu*> menus = m_bar.findChildren<QMenu*>(Qt::FindDirectChildrenOnly);
+    for (const QMenu* menu : menus) {
+        const QList<QAction*> actions = menu->actions();
+        for (QAction* action : actions) {
+            if (action->shortcut() == pressed && action->isEnabled()) {
+                action->trigger();
+                return true;
+            }
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace Kelvane

@@ -1,0 +1,101 @@
+// The resident application: one process a support folder, with a status item, a window when asked for, and the commands
+// of the command line.
+
+#include "DockCore/Paths.h"
+#include "DockCore/Platform.h"
+#include "Kelvane/AppModel.h"
+#include "Kelvane/Commands/CommandClient.h"
+#include "Kelvane/Commands/CommandRunner.h"
+#include "Kelvane/Commands/CommandServer.h"
+#include "Kelvane/Commands/InstanceLock.h"
+#include "Kelvane/Shell/AppDelegate.h"
+#include "Kelvane/Uninstall.h"
+#include "Platform/Posix/Terminal.h"
+#include "Platform/Posix/TerminationSignals.h"
+#include "Platform/SelfTest.h"
+#include "Platform/SystemDesktop.h"
+#include "Platform/SystemPlatform.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QTextStream>
+#include <QThread>
+
+#include <cstdio>
+
+using namespace Kelvane;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto answerPatience = 5s;
+/// A command that holds the lock may be changing the Dock.
+constexpr auto turnPatience = 60s;
+constexpr auto turnPause = 20ms;
+
+enum class Turn { ours, shownByOther, impossible };
+
+/// Becomes the one application of the support folder, or asks the one that runs to show its window.
+Turn takeTurn(InstanceLock& lock, const QString& socket) {
+    const QDeadlineTimer deadline(turnPatience);
+    while (lock.tryAcquire() == InstanceLock::State::busy) {
+        const auto reply =
+            CommandClient::ask(socket, {.kind = CommandRequest::Kind::showWindow}, Terminal::userID(), answerPatience);
+        if (std::holds_alternative<Answer>(reply))
+            return Turn::shownByOther;
+        if (deadline.hasExpired())
+            return Turn::impossible;
+        QThread::msleep(std::chrono::milliseconds(turnPause).count());
+    }
+    return Turn::ours;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    SystemDesktop::prepareEnvironment();
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"Kelvane"_s);
+    QApplication::setApplicationVersion(QStringLiteral(KELVANE_VERSION));
+    QApplication::setDesktopFileName(u"org.kelvane.Kelvane"_s);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.contains(u"--version")) {
+        std::printf("Kelvane %s\n", KELVANE_VERSION);
+        return 0;
+    }
+    if (arguments.contains(u"--selftest"))
+        return runSelfTest();
+
+    SystemPlatform system;
+    const DockCore::PlatformScope scope(system.platform());
+    if (arguments.contains(u"--uninstall")) {
+        QTextStream output(stdout);
+        return Uninstall::run(SystemDesktop().loginItem(), output);
+    }
+    const QString support = DockCore::Paths::support();
+    const QString socket = commandSocketPath(support);
+    InstanceLock lock(support);
+    switch (takeTurn(lock, socket)) {
+    case Turn::ours:
+        break;
+    case Turn::shownByOther:
+        return 0;
+    case Turn::impossible:
+        std::fputs("Kelvane seems to be running but does not answer.\n", stderr);
+        return 1;
+    }
+
+    const TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::received, &application, &QCoreApplication::quit);
+    SystemDesktop desktop;
+    AppModel model(&desktop.workspace(), &desktop.loginItem());
+    CommandRunner runner(model);
+    AppDelegate delegate(model, desktop.desktop());
+    const CommandServer server(runner, socket);
+    QObject::connect(&server, &CommandServer::showRequested, &delegate, &AppDelegate::showWindow);
+    delegate.finishLaunching(arguments.contains(u"--show") ? AppDelegate::Window::show
+                                                           : AppDelegate::Window::onFirstRun);
+    return QApplication::exec();
+}
