@@ -1,0 +1,15 @@
+#pragma once
+
+#include "DockCore/Ports/Bundles.h"
+
+namespace MacOS {
+
+/// Bundles as Foundation reads them and the workspace finds them. Any thread may call it, several at a time.
+class Bundles final : public DockCore::Bundles {
+public:
+    std::optional<QString> identifier(const QString& path) override;
+    QString displayName(const QString& path) override;
+    std::optional<QString> path(const QString& identifier) override;
+};
+
+} // namespace MacOS

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Kelvane/Ports/Desktop.h"
+
+namespace MacOS {
+
+/// The desktop through AppKit. Main thread only, but for `applicationIcon`.
+class Desktop final : public Kelvane::Desktop {
+public:
+    /// `regular` also brings the application to the front: one that just became regular is behind all others.
+    void setActivationPolicy(ActivationPolicy policy) override;
+    void setAppearance(Appearance appearance) override;
+    void prepareMainWindow(QWindow& window) override;
+    std::optional<QImage> applicationIcon(const QString& path, int size) override;
+    /// As large as a symbol in the menu bar, for plain and for dense screens.
+    std::optional<QIcon> symbol(const QString& name, const QString& description) override;
+    void reveal(const QString& path) override;
+};
+
+} // namespace MacOS

@@ -1,0 +1,94 @@
+#include "Platform/MacOS/Desktop.h"
+
+#include "Platform/MacOS/ImageDrawing.h"
+#include "Platform/MacOS/MainWindowChrome.h"
+
+#include <QPixmap>
+#include <QWindow>
+
+#import <AppKit/AppKit.h>
+
+namespace MacOS {
+
+void Desktop::setActivationPolicy(ActivationPolicy policy) {
+    @autoreleasepool {
+        NSApplication* application = NSApplication.sharedApplication;
+        const bool regular = policy == ActivationPolicy::regular;
+        const BOOL accepted = [application setActivationPolicy:regular ? NSApplicationActivationPolicyRegular
+                                                                       : NSApplicationActivationPolicyAccessory];
+        if (!accepted) {
+            qWarning("The system refused the activation policy.");
+        }
+        if (!regular) {
+            return;
+        }
+        if (@available(macOS 14.0, *)) {
+            [application activate];
+        } else {
+            [application activateIgnoringOtherApps:YES];
+        }
+    }
+}
+
+void Desktop::setAppearance(Appearance appearance) {
+    @autoreleasepool {
+        NSAppearance* forced = nil;
+        if (appearance == Appearance::light) {
+            forced = [NSAppearance appearanceNamed:NSAppearanceNameAqua];
+        } else if (appearance == Appearance::dark) {
+            forced = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
+        }
+        // None follows the system.
+        NSApplication.sharedApplication.appearance = forced;
+    }
+}
+
+void Desktop::prepareMainWindow(QWindow& window) {
+    if (window.findChild<MainWindowChrome*>(QString(), Qt::FindDirectChildrenOnly) == nullptr) {
+        new MainWindowChrome(window);
+    }
+}
+
+std::optional<QImage> Desktop::applicationIcon(const QString& path, int size) {
+    @autoreleasepool {
+        const QImage image = draw([NSWorkspace.sharedWorkspace iconForFile:path.toNSString()], size, 1);
+        if (image.isNull()) {
+            return std::nullopt;
+        }
+        return image;
+    }
+}
+
+std::optional<QIcon> Desktop::symbol(const QString& name, const QString& description) {
+    @autoreleasepool {
+        NSImage* named = [NSImage imageWithSystemSymbolName:name.toNSString()
+                                   accessibilityDescription:description.toNSString()];
+        if (named == nil) {
+            return std::nullopt;
+        }
+        constexpr int points = 18;
+        NSImage* sized = [named
+            imageWithSymbolConfiguration:[NSImageSymbolConfiguration configurationWithPointSize:points
+                                                                                         weight:NSFontWeightRegular]];
+        if (sized == nil) {
+            return std::nullopt;
+        }
+        QIcon icon;
+        for (const int scale : {1, 2}) {
+            icon.addPixmap(QPixmap::fromImage(draw(sized, points, scale)));
+        }
+        icon.setIsMask(true);
+        return icon;
+    }
+}
+
+void Desktop::reveal(const QString& path) {
+    if (path.isEmpty()) {
+        return;
+    }
+    @autoreleasepool {
+        [NSWorkspace.sharedWorkspace activateFileViewerSelectingURLs:@[ [NSURL fileURLWithPath:path.toNSString()] ]];
+    }
+}
+
+} // namespace MacOS

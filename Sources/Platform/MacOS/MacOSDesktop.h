@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Platform/MacOS/Desktop.h"
+#include "Platform/MacOS/LoginItem.h"
+#include "Platform/MacOS/Workspace.h"
+
+/// The application's ports on macOS: owns one adapter a port. Made after the application object, by `main` alone.
+class MacOSDesktop {
+public:
+    /// What must be settled before the application object is made: nothing here.
+    static void prepareEnvironment() {}
+
+    Kelvane::Workspace& workspace() { return m_workspace; }
+    Kelvane::LoginItem& loginItem() { return m_loginItem; }
+    Kelvane::Desktop& desktop() { return m_desktop; }
+
+private:
+    MacOS::Workspace m_workspace;
+    MacOS::LoginItem m_loginItem;
+    MacOS::Desktop m_desktop;
+};

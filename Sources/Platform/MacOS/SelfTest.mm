@@ -1,0 +1,172 @@
+#include "Platform/SelfTest.h"
+
+#include "DockCore/PropertyList.h"
+#include "Platform/MacOS/Bundles.h"
+#include "Platform/MacOS/Desktop.h"
+#include "Platform/MacOS/Folders.h"
+#include "Platform/MacOS/LoginItem.h"
+#include "Platform/MacOS/Metadata.h"
+#include "Platform/MacOS/Preferences.h"
+#include "Platform/MacOS/SystemInterfaces.h"
+#include "Platform/MacOS/Values.h"
+#include "Platform/MacOS/Workspace.h"
+#include "Platform/Posix/Processes.h"
+#include "Platform/SelfTestReport.h"
+
+#include <QSysInfo>
+#include <QTextStream>
+
+#import <AppKit/AppKit.h>
+
+#include <dlfcn.h>
+
+using namespace Qt::StringLiterals;
+using DockCore::PropertyList;
+using Verdict = SelfTestReport::Verdict;
+
+namespace {
+
+bool isThere(const MacOS::SystemInterface& interface) {
+    using Kind = MacOS::SystemInterface::Kind;
+    if (interface.kind == Kind::symbol) {
+        return dlsym(RTLD_DEFAULT, interface.name) != nullptr;
+    }
+    NSString* name = QString::fromLatin1(interface.name).toNSString();
+    if (interface.kind == Kind::type) {
+        return NSClassFromString(name) != nil;
+    }
+    Class type = NSClassFromString(QString::fromLatin1(interface.owner).toNSString());
+    const SEL selector = NSSelectorFromString(name);
+    return interface.kind == Kind::classMethod ? [type respondsToSelector:selector] != NO
+                                               : [type instancesRespondToSelector:selector] != NO;
+}
+
+QString title(const MacOS::SystemInterface& interface) {
+    using Kind = MacOS::SystemInterface::Kind;
+    const QString name = QString::fromLatin1(interface.name);
+    switch (interface.kind) {
+    case Kind::type:
+        return u"class "_s + name;
+    case Kind::classMethod:
+        return u"+[%1 %2]"_s.arg(QLatin1StringView(interface.owner), name);
+    case Kind::instanceMethod:
+        return u"-[%1 %2]"_s.arg(QLatin1StringView(interface.owner), name);
+    case Kind::symbol:
+        break;
+    }
+    return u"symbol "_s + name;
+}
+
+void tellSystem(SelfTestReport& report) {
+    report.add(Verdict::told, u"Kelvane"_s, QStringLiteral(KELVANE_VERSION));
+    report.add(Verdict::told, u"macOS"_s,
+               QString::fromNSString(NSProcessInfo.processInfo.operatingSystemVersionString));
+    report.add(Verdict::told, u"Processor"_s, QSysInfo::currentCpuArchitecture());
+    report.add(Verdict::told, u"Qt"_s, QString::fromLatin1(qVersion()));
+}
+
+void checkInterfaces(SelfTestReport& report) {
+    for (const MacOS::SystemInterface& interface : MacOS::systemInterfaces()) {
+        if (interface.firstSystem > NSProcessInfo.processInfo.operatingSystemVersion.majorVersion) {
+            report.add(Verdict::told, title(interface), u"from macOS %1"_s.arg(interface.firstSystem));
+        } else {
+            report.check(isThere(interface), title(interface));
+        }
+    }
+}
+
+void checkDock(SelfTestReport& report) {
+    MacOS::Preferences dock;
+    report.check(dock.synchronize(), u"The Dock's preferences synchronize"_s);
+    for (const QString& key : {u"persistent-apps"_s, u"persistent-others"_s, u"show-recents"_s}) {
+        const std::optional<PropertyList> value = dock.copyValue(key);
+        if (!value) {
+            report.add(Verdict::told, u"The Dock's "_s + key, u"absent"_s);
+            continue;
+        }
+        const MacOS::Owner there = MacOS::makePropertyList(*value);
+        const std::optional<PropertyList> back = there ? MacOS::propertyList(there.borrow()) : std::nullopt;
+        report.check(back == value, u"The Dock's "_s + key,
+                     value->array() == nullptr ? QString() : u"%1 items"_s.arg(value->array()->size()));
+    }
+    report.check(Posix::Processes().run(u"/usr/bin/pgrep"_s, {u"-x"_s, u"Dock"_s}) == 0, u"The Dock runs"_s);
+}
+
+void checkOwnPreferences(SelfTestReport& report) {
+    const QString key = u"SelfTest"_s;
+    const PropertyList value{PropertyList::Dictionary{
+        {u"text"_s, {u"ä€𝄞"_s}},
+        {u"number"_s, {qint64(-1)}},
+        {u"real"_s, {0.5}},
+        {u"truth"_s, {true}},
+        {u"bytes"_s, {QByteArray("\0\xff", 2)}},
+        {u"moment"_s, {PropertyList::Date{.seconds = 1000}}},
+        {u"list"_s, {PropertyList::Array{{u"one"_s}, {PropertyList::Dictionary{}}}}},
+    }};
+    MacOS::Preferences own(u"org.kelvane.Kelvane"_s);
+    own.setValue(key, value);
+    report.check(own.synchronize(), u"A value of our own is saved"_s);
+    report.check(own.copyValue(key) == value, u"It is read back as it was"_s);
+    own.setValue(key, std::nullopt);
+    report.check(own.synchronize() && !own.copyValue(key), u"It is removed again"_s);
+}
+
+void checkApplications(SelfTestReport& report) {
+    MacOS::Bundles bundles;
+    const QString finder = u"com.apple.finder"_s;
+    const std::optional<QString> path = bundles.path(finder);
+    report.check(path.has_value(), u"The workspace knows the Finder"_s, path.value_or(QString()));
+    if (path) {
+        report.check(bundles.identifier(*path) == finder, u"Its bundle has its identifier"_s);
+        report.check(!bundles.displayName(*path).isEmpty(), u"It has a display name"_s, bundles.displayName(*path));
+        report.check(MacOS::Desktop().applicationIcon(*path, 64).has_value(), u"It has an icon"_s);
+    }
+
+    MacOS::Folders folders;
+    report.check(!folders.home().isEmpty(), u"The home folder"_s, folders.home());
+    report.check(!folders.applicationSupport().isEmpty(), u"The application support folder"_s,
+                 folders.applicationSupport());
+    const QStringList applications = folders.entries(u"/System/Applications"_s);
+    report.check(!applications.isEmpty(), u"The system's applications are listed"_s,
+                 u"%1 entries"_s.arg(applications.size()));
+    qsizetype known = 0;
+    qsizetype dated = 0;
+    for (const QString& application : applications) {
+        const std::optional<DockCore::Metadata::Item> item = MacOS::Metadata().item(application);
+        known += item.has_value() ? 1 : 0;
+        dated += item && (item->usedDates || item->lastUsedDate) ? 1 : 0;
+    }
+    // Where indexing is off there is nothing to know, and that is no fault.
+    report.add(Verdict::told, u"The metadata index"_s,
+               u"knows %1 of them, %2 with dates of use"_s.arg(known).arg(dated));
+}
+
+void checkSession(SelfTestReport& report) {
+    MacOS::Workspace workspace;
+    const std::optional<Kelvane::RunningApplication> front = workspace.frontApplication();
+    report.add(Verdict::told, u"In front"_s,
+               front ? front->bundleID.value_or(front->name.value_or(u"without a name"_s)) : u"nothing"_s);
+    const auto idle = workspace.sinceLastInput();
+    report.add(Verdict::told, u"Since the last input"_s, idle ? u"%1 s"_s.arg(idle->count(), 0, 'f', 1) : u"unknown"_s);
+    report.add(Verdict::told, u"Opens at login"_s, MacOS::LoginItem().isEnabled() ? u"yes"_s : u"no"_s);
+    for (const QString& symbol : {u"dock.rectangle"_s, u"pause.circle"_s, u"square.stack.3d.up"_s, u"gearshape"_s}) {
+        NSImage* image = [NSImage imageWithSystemSymbolName:symbol.toNSString() accessibilityDescription:nil];
+        report.check(image != nil, u"The system draws "_s + symbol);
+    }
+}
+
+} // namespace
+
+int runSelfTest() {
+    SelfTestReport report;
+    @autoreleasepool {
+        tellSystem(report);
+        checkInterfaces(report);
+        checkDock(report);
+        checkOwnPreferences(report);
+        checkApplications(report);
+        checkSession(report);
+    }
+    QTextStream(stdout) << report.text();
+    return report.hasFailed() ? 1 : 0;
+}

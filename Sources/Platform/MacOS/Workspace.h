@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Kelvane/Ports/Workspace.h"
+
+#include <memory>
+
+namespace MacOS {
+
+/// The workspace's notifications as signals, and the application in front. Main thread only; its answers are fresh
+/// while the main run loop turns.
+class Workspace final : public Kelvane::Workspace {
+    Q_OBJECT
+
+public:
+    explicit Workspace(QObject* parent = nullptr);
+    /// After this no notification arrives any more.
+    ~Workspace() override;
+
+    std::optional<Kelvane::RunningApplication> frontApplication() override;
+    std::optional<std::chrono::duration<double>> sinceLastInput() override;
+
+private:
+    /// The observers' tokens, which plain C++ cannot name.
+    struct Observers;
+    std::unique_ptr<Observers> m_observers;
+};
+
+} // namespace MacOS

@@ -1,0 +1,101 @@
+#include "Platform/MacOS/Workspace.h"
+
+#include "Platform/MacOS/InputIdleTime.h"
+
+#include <QList>
+
+#import <AppKit/AppKit.h>
+
+namespace MacOS {
+
+/// A centre and the token that it gave for one block; the observation ends with it.
+struct Workspace::Observers {
+    struct Observer {
+        NSNotificationCenter* centre;
+        id<NSObject> token;
+    };
+    QList<Observer> all;
+
+    void observe(NSNotificationCenter* centre, NSNotificationName name, void (^block)(NSNotification*)) {
+        // The main queue: the workspace may post from any thread, and everything of ours lives on the main one.
+        all.append({centre, [centre addObserverForName:name
+                                                object:nil
+                                                 queue:NSOperationQueue.mainQueue
+                                            usingBlock:block]});
+    }
+
+    Observers() = default;
+    ~Observers() {
+        for (const Observer& observer : all) {
+            [observer.centre removeObserver:observer.token];
+        }
+    }
+    Observers(const Observers&) = delete;
+    Observers& operator=(const Observers&) = delete;
+};
+
+namespace {
+
+Kelvane::RunningApplication describe(NSRunningApplication* application) {
+    Kelvane::RunningApplication result;
+    result.isRegular = application.activationPolicy == NSApplicationActivationPolicyRegular;
+    if (NSString* identifier = application.bundleIdentifier) {
+        result.bundleID = QString::fromNSString(identifier);
+    }
+    if (NSString* name = application.localizedName) {
+        result.name = QString::fromNSString(name);
+    }
+    return result;
+}
+
+} // namespace
+
+Workspace::Workspace(QObject* parent)
+    : Kelvane::Workspace(parent)
+    , m_observers(std::make_unique<Observers>()) {
+    @autoreleasepool {
+        // The blocks run on the main thread, where this object dies and its observers with it: the pointer is good.
+        NSNotificationCenter* workspace = NSWorkspace.sharedWorkspace.notificationCenter;
+        m_observers->observe(workspace, NSWorkspaceDidActivateApplicationNotification, ^(NSNotification* notification) {
+            id application = notification.userInfo[NSWorkspaceApplicationKey];
+            if ([application isKindOfClass:NSRunningApplication.class]) {
+                Q_EMIT activated(describe(application));
+            }
+        });
+
+        void (^pause)(NSNotification*) = ^(NSNotification*) {
+            Q_EMIT paused();
+        };
+        void (^resume)(NSNotification*) = ^(NSNotification*) {
+            Q_EMIT resumed();
+        };
+        m_observers->observe(workspace, NSWorkspaceScreensDidSleepNotification, pause);
+        m_observers->observe(workspace, NSWorkspaceWillSleepNotification, pause);
+        m_observers->observe(workspace, NSWorkspaceSessionDidResignActiveNotification, pause);
+        m_observers->observe(workspace, NSWorkspaceScreensDidWakeNotification, resume);
+        m_observers->observe(workspace, NSWorkspaceDidWakeNotification, resume);
+        m_observers->observe(workspace, NSWorkspaceSessionDidBecomeActiveNotification, resume);
+
+        NSNotificationCenter* distributed = [NSDistributedNotificationCenter defaultCenter];
+        m_observers->observe(distributed, @"com.apple.screenIsLocked", pause);
+        m_observers->observe(distributed, @"com.apple.screenIsUnlocked", resume);
+    }
+}
+
+Workspace::~Workspace() = default;
+
+std::optional<Kelvane::RunningApplication> Workspace::frontApplication() {
+    @autoreleasepool {
+        NSRunningApplication* application = NSWorkspace.sharedWorkspace.frontmostApplication;
+        if (application == nil) {
+            return std::nullopt;
+        }
+        return describe(application);
+    }
+}
+
+std::optional<std::chrono::duration<double>> Workspace::sinceLastInput() {
+    return inputIdleTime();
+}
+
+} // namespace MacOS
