@@ -1,0 +1,187 @@
+#include "Kelvane/ViewModels/FirstRunViewModel.h"
+
+#include "Support/ModelWorld.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+using namespace DockCore;
+using namespace Kelvane;
+using namespace Fakes;
+using namespace Qt::StringLiterals;
+
+class FirstRunViewModelTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() {
+        world.emplace();
+        model.emplace(nullptr, &login);
+        model->captureOriginal();
+        flow.emplace(*model);
+        tester = std::make_unique<QAbstractItemModelTester>(flow->choices(),
+                                                            QAbstractItemModelTester::FailureReportingMode::QtTest);
+    }
+    void cleanup() {
+        tester.reset();
+        flow.reset();
+        model.reset();
+        world.reset();
+        login = {};
+    }
+
+    void theStepsAreWalkedWithinTheirEnds() {
+        QCOMPARE(flow->step(), 0);
+        flow->back();
+        QCOMPARE(model->onboardingStep(), 0);
+        flow->advance();
+        flow->advance();
+        QCOMPARE(model->onboardingStep(), 2);
+        flow->advance();
+        QCOMPARE(model->onboardingStep(), 2);
+        flow->back();
+        QCOMPARE(flow->step(), 1);
+    }
+
+    void theActiveProfileIsChosenAtFirst() {
+        QCOMPARE(flow->choices()->rowCount(), static_cast<int>(model->profiles().size()));
+        QVERIFY(flow->choices()->rows()[0].isChosen);
+    }
+
+    void choosingActivatesAndLeavesTheDock() {
+        QSignalSpy spy(&*model, &AppModel::proposalChanged);
+        flow->choose(uuidString(model->profiles()[2].id));
+        QCOMPARE(ProfileStore().settings.activeProfileID, std::optional(model->profiles()[2].id));
+        QVERIFY(flow->choices()->rows()[2].isChosen);
+        QVERIFY(!flow->choices()->rows()[0].isChosen);
+        QVERIFY(spy.count() > 0);
+        QCOMPARE(flow->suggestionTitle(), u"Suggested for "_s + model->profiles()[2].name);
+        QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
+        QVERIFY(!model->settings().onboarded);
+    }
+
+    void line_data() {
+        QTest::addColumn<int>("slots_");
+        QTest::addColumn<UsageWindow>("window");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("several apps over a week") << 8 << UsageWindow::week << u"With 8 apps by usage · Last 7 days"_s;
+        QTest::newRow("one app over a month") << 1 << UsageWindow::month << u"With 1 app by usage · Last 30 days"_s;
+        QTest::newRow("none at all") << 0 << UsageWindow::week << u"With no apps by usage · Last 7 days"_s;
+        QTest::newRow("fewer than none") << -3 << UsageWindow::week << u"With no apps by usage · Last 7 days"_s;
+    }
+    void line() {
+        QFETCH(int, slots_);
+        QFETCH(UsageWindow, window);
+        QTEST(ChoiceListModel::line(Profile::make(u"x"_s, u"heart"_s, {}, {}, slots_, window, false)), "line");
+    }
+
+    void aChoiceShowsWhatItsProfilePlans() {
+        pinActive(*model, {u"c"_s, u"a"_s});
+        QCOMPARE(flow->choices()->rows()[0].bundleIDs, ModelWorld::bundleIDs({u"c"_s, u"a"_s}));
+    }
+
+    void theSavedDockIsTheOriginal() {
+        world->setDock({u"e"_s});
+        QVERIFY(refreshAndWait(*model));
+        QCOMPARE(flow->savedApps(), ModelWorld::bundleIDs({u"a"_s, u"b"_s}));
+        QCOMPARE(flow->savedNames(), u"a, b"_s);
+    }
+
+    void aLongSavedDockStandsInTwoRows_data() {
+        QTest::addColumn<int>("apps");
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("second");
+        QTest::newRow("none at all") << 0 << 0 << 0;
+        QTest::newRow("fourteen fit in one") << 14 << 14 << 0;
+        QTest::newRow("fifteen take two") << 15 << 8 << 7;
+    }
+    void aLongSavedDockStandsInTwoRows() {
+        QFETCH(int, apps);
+        QStringList words;
+        for (int i = 0; i < apps; ++i)
+            words += u"app%1"_s.arg(i);
+        ModelWorld other(words);
+        AppModel fresh(nullptr, nullptr);
+        fresh.captureOriginal();
+        const FirstRunViewModel run(fresh);
+        QTEST(static_cast<int>(run.savedFirstIcons().size()), "first");
+        QTEST(static_cast<int>(run.savedSecondIcons().size()), "second");
+        QCOMPARE(run.savedFirstIcons().size() + run.savedSecondIcons().size(), run.savedApps().size());
+    }
+
+    void theFiguresAreThoseOfTheSuggestion() {
+        QVERIFY(refreshAndWait(*model));
+        pinActive(*model, {u"c"_s, u"b"_s});
+        QCOMPARE(flow->addedCount(), 1);
+        QCOMPARE(flow->leavingCount(), 1);
+        QCOMPARE(flow->movedCount(), 0);
+    }
+
+    void applyingEndsTheFlowAndWritesTheDock() {
+        pinActive(*model, {u"c"_s, u"b"_s});
+        flow->applyToDock();
+        QVERIFY(ProfileStore().settings.onboarded);
+        QVERIFY(waitForChange(*model));
+        QCOMPARE(world->dock(), QStringList({u"c"_s, u"b"_s}));
+        QCOMPARE(model->toast()->text, u"Dock updated for Work."_s);
+    }
+
+    void applyingToAMatchingDockEndsTheFlowAndSaysSo() {
+        pinActive(*model, {u"a"_s, u"b"_s});
+        flow->applyToDock();
+        QVERIFY(model->settings().onboarded);
+        QCOMPARE(model->toast()->text, u"Your Dock already matches Work."_s);
+    }
+
+    void applyingAnEmptySuggestionEndsTheFlowAndSaysSo() {
+        pinActive(*model, {});
+        flow->applyToDock();
+        QVERIFY(model->settings().onboarded);
+        QCOMPARE(model->toast()->text, u"Work has no apps yet. Add some in Profiles."_s);
+        QVERIFY(model->toast()->isError);
+        QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
+    }
+
+    void notNowEndsTheFlowAndLeavesTheDock() {
+        pinActive(*model, {u"c"_s});
+        flow->notNow();
+        QVERIFY(ProfileStore().settings.onboarded);
+        QVERIFY(!model->isWorking());
+        QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
+        QCOMPARE(flow->choices()->rowCount(), 0);
+    }
+
+    void anUnfinishedFlowIsNotRememberedAsDone() {
+        flow->advance();
+        flow->choose(uuidString(model->profiles()[1].id));
+        flow->setScheduleIndex(1);
+        QVERIFY(!ProfileStore().settings.onboarded);
+    }
+
+    void untilTheFlowIsDoneNothingIsApplied() {
+        pinActive(*model, {u"c"_s});
+        model->autoCheck();
+        QVERIFY(refreshAndWait(*model));
+        QVERIFY(!model->isWorking());
+        QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
+    }
+
+    void scheduleAndLoginAreSetAtOnce() {
+        flow->setScheduleIndex(1);
+        QCOMPARE(ProfileStore().settings.autoUpdate, AutoUpdate::hourly);
+        QCOMPARE(flow->scheduleIndex(), 1);
+        flow->setOpensAtLogin(true);
+        QVERIFY(login.enabled);
+        QVERIFY(flow->opensAtLogin());
+    }
+
+private:
+    std::optional<ModelWorld> world;
+    std::optional<AppModel> model;
+    std::optional<FirstRunViewModel> flow;
+    Fakes::LoginItem login;
+    std::unique_ptr<QAbstractItemModelTester> tester;
+};
+
+QTEST_GUILESS_MAIN(FirstRunViewModelTest)
+#include "FirstRunViewModelTest.moc"
