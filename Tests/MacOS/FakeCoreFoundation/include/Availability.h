@@ -1,0 +1,3 @@
+#pragma once
+
+#include "../../SDK/usr/include/Availability.h"

@@ -1,0 +1,4 @@
+#pragma once
+
+// The declarations that the adapters are checked with, where a compiler without frameworks looks for them.
+#include "../../../SDK/System/Library/Frameworks/CoreGraphics.framework/Headers/CoreGraphics.h"
