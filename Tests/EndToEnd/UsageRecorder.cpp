@@ -1,0 +1,38 @@
+// The tracker as a process of its own, without the rest of the application: records until it is asked to end, then says
+// how often its event loop woke.
+
+#include "DockCore/Paths.h"
+#include "DockCore/Platform.h"
+#include "DockCore/UsageStore.h"
+#include "Kelvane/UsageTracker.h"
+#include "Platform/Linux/LinuxPlatform.h"
+#include "Platform/Linux/X11Workspace.h"
+#include "Platform/Posix/TerminationSignals.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+
+#include <cstdio>
+
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    LinuxPlatform system;
+    const DockCore::PlatformScope scope(system.platform());
+    const TerminationSignals signals;
+    Linux::X11Workspace workspace;
+    DockCore::UsageStore usage(DockCore::Paths::usage());
+    Kelvane::UsageTracker tracker(usage, &workspace);
+    QObject::connect(&signals, &TerminationSignals::received, &tracker, [&tracker] {
+        tracker.flush();
+        QCoreApplication::quit();
+    });
+    tracker.start();
+    int awakenings = 0;
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &tracker,
+                     [&awakenings] { ++awakenings; });
+    std::puts("ready");
+    std::fflush(stdout);
+    const int status = QCoreApplication::exec();
+    std::printf("%d\n", awakenings);
+    return status;
+}

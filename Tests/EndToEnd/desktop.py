@@ -1,0 +1,121 @@
+"""A private desktop for the real application: X server, window manager, buses, panel, and hands to use it with."""
+
+import os
+import pathlib
+import signal
+import subprocess
+import sys
+import time
+
+HERE = pathlib.Path(__file__).resolve().parent
+
+
+def until(condition, seconds=20):
+    """The first true answer of `condition`, asked again and again; fails when none comes in time."""
+    deadline = time.monotonic() + seconds
+    while True:
+        answer = condition()
+        if answer:
+            return answer
+        if time.monotonic() > deadline:
+            raise AssertionError("it did not come true: " + (condition.__doc__ or condition.__name__))
+        time.sleep(0.05)
+
+
+class Desktop:
+    def __init__(self):
+        self.processes = []
+        self.display = self.start_x()
+        self.address = self.start_bus()
+        self.environment = {
+            "DISPLAY": self.display,
+            "DBUS_SESSION_BUS_ADDRESS": self.address,
+            # Nothing of the machine's own is to be found there.
+            "DBUS_SYSTEM_BUS_ADDRESS": "unix:path=/nonexistent",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "XDG_RUNTIME_DIR": "/nonexistent",
+        }
+        self.start(["openbox", "--config-file", "/etc/xdg/openbox/rc.xml"])
+        watcher = self.start([sys.executable, "-B", HERE / "status_notifier_watcher.py"], stdout=subprocess.PIPE)
+        assert watcher.stdout.readline() == b"ready\n"
+        until(lambda: self.output("xdotool", "get_desktop") is not None)
+
+    def start_x(self):
+        read, write = os.pipe()
+        self.processes.append(subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24", "-noreset", "-nolisten", "tcp"],
+            pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        os.close(write)
+        with os.fdopen(read) as pipe:
+            return ":" + pipe.readline().strip()
+
+    def start_bus(self):
+        bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE,
+                               stderr=subprocess.DEVNULL, env={**os.environ, "DISPLAY": self.display})
+        self.processes.append(bus)
+        return bus.stdout.readline().decode().strip()
+
+    def start(self, command, **options):
+        process = subprocess.Popen(command, env={**os.environ, **self.environment},
+                                   **{"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, **options})
+        self.processes.append(process)
+        return process
+
+    def output(self, *command):
+        """What the command prints; nothing when it fails."""
+        result = subprocess.run(command, env={**os.environ, **self.environment}, capture_output=True, text=True, timeout=20)
+        return result.stdout.strip() if result.returncode == 0 else None
+
+    def windows(self, pid):
+        """The visible windows of a process."""
+        return (self.output("xdotool", "search", "--onlyvisible", "--pid", str(pid), "--name", "Kelvane") or "").split()
+
+    def key(self, *keys):
+        self.output("xdotool", "key", "--clearmodifiers", *keys)
+
+    def type(self, text):
+        self.output("xdotool", "type", "--delay", "15", text)
+
+    def click(self, x, y, times=1):
+        self.output("xdotool", "mousemove", str(x), str(y))
+        self.output("xdotool", "click", "--repeat", str(times), "--delay", "60", "1")
+
+    def close(self):
+        for process in reversed(self.processes):
+            process.send_signal(signal.SIGKILL)
+            process.wait()
+            if process.stdout:
+                process.stdout.close()
+
+
+class Menu:
+    """The menu of the one status item, as a panel reads it."""
+
+    def __init__(self, desktop):
+        import dbus
+        self.dbus = dbus
+        self.bus = dbus.bus.BusConnection(desktop.address)
+        watcher = self.bus.get_object("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher")
+        items = until(lambda: watcher.Get("org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems",
+                                          dbus_interface=dbus.PROPERTIES_IFACE))
+        self.service = items[-1]
+        item = self.bus.get_object(self.service, "/StatusNotifierItem")
+        self.properties = item.GetAll("org.kde.StatusNotifierItem", dbus_interface=dbus.PROPERTIES_IFACE)
+        self.menu = dbus.Interface(self.bus.get_object(self.service, self.properties["Menu"]), "com.canonical.dbusmenu")
+
+    def items(self):
+        """The items as they stand when the menu opens: dictionaries of their properties, with "id"."""
+        self.menu.AboutToShow(self.dbus.Int32(0))
+        _, (_, _, children) = self.menu.GetLayout(self.dbus.Int32(0), self.dbus.Int32(-1), self.dbus.Array([], signature="s"))
+        return [{**{str(key): value for key, value in properties.items()}, "id": int(identifier)}
+                for identifier, properties, _ in children]
+
+    def labels(self):
+        return ["-" if item.get("type") == "separator" else str(item["label"]) for item in self.items()]
+
+    def item(self, label):
+        return next(item for item in self.items() if item.get("label") == label)
+
+    def click(self, label):
+        self.menu.Event(self.dbus.Int32(self.item(label)["id"]), "clicked", self.dbus.String("", variant_level=1),
+                        self.dbus.UInt32(0))
