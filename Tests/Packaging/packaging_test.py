@@ -186,6 +186,12 @@ class Workflow(unittest.TestCase):
         at = [next(index for index, step in enumerate(steps) if word in step) for word in wanted]
         self.assertEqual(sorted(at), at)
 
+    def test_tests_are_built_before_they_are_run(self):
+        for job in ("linux", "macos"):
+            steps = self.steps(job)
+            run = next(index for index, step in enumerate(steps) if step.startswith("ctest"))
+            self.assertTrue(any("-DBUILD_TESTING=ON" in step for step in steps[:run]), job)
+
     def test_what_runs_from_the_repository_exists(self):
         for script in re.findall(r"(?:\./|\s)((?:dev|\.ci/run|Packaging/macOS/make-bundle))\s", WORKFLOW):
             self.assertTrue(os.access(ROOT / script, os.X_OK), script)
