@@ -48,9 +48,11 @@ void AppDelegate::makeStatusItem() {
 }
 
 void AppDelegate::makeMainMenu() {
-    m_mainMenu = std::make_unique<MainMenu>();
+    m_mainMenu = std::make_unique<MainMenu>(m_desktop.makesApplicationMenu() ? MainMenu::ApplicationMenu::systems
+                                                                             : MainMenu::ApplicationMenu::ours);
     connect(m_mainMenu.get(), &MainMenu::quitRequested, qApp, &QCoreApplication::quit);
     connect(m_mainMenu.get(), &MainMenu::aboutRequested, this, &AppDelegate::showAbout);
+    // Where the system does not hide applications, one without a window is as hidden as can be.
     connect(m_mainMenu.get(), &MainMenu::hideRequested, this, [this] { m_window->close(); });
     connect(m_mainMenu.get(), &MainMenu::closeRequested, this, [this] { m_window->close(); });
     connect(m_mainMenu.get(), &MainMenu::minimizeRequested, this, [this] { m_window->minimize(); });

@@ -22,22 +22,36 @@ void add(QMenu& menu, const QString& title, const QKeySequence& key, const char*
 }
 } // namespace
 
-MainMenu::MainMenu() {
-    addApplicationMenu();
+MainMenu::MainMenu(ApplicationMenu applicationMenu) {
+    if (applicationMenu == ApplicationMenu::ours)
+        addApplicationMenu();
     addEditMenu();
-    addWindowMenu();
+    QMenu& window = addWindowMenu();
+    if (applicationMenu == ApplicationMenu::systems) {
+        // They move to the system's menu by their roles; a menu left empty by that would stay behind.
+        addAbout(window);
+        addQuit(window);
+    }
     if (!m_bar.isNativeMenuBar())
         qApp->installEventFilter(this);
 }
 
 void MainMenu::addApplicationMenu() {
     QMenu& menu = *m_bar.addMenu(u"Kelvane"_s);
-    QAction* about = menu.addAction(u"About Kelvane"_s);
-    about->setMenuRole(QAction::AboutRole);
-    connect(about, &QAction::triggered, this, &MainMenu::aboutRequested);
+    addAbout(menu);
     menu.addSeparator();
     QAction* hide = menu.addAction(u"Hide Kelvane"_s, QKeySequence(Qt::CTRL | Qt::Key_H));
     connect(hide, &QAction::triggered, this, &MainMenu::hideRequested);
+    addQuit(menu);
+}
+
+void MainMenu::addAbout(QMenu& menu) {
+    QAction* about = menu.addAction(u"About Kelvane"_s);
+    about->setMenuRole(QAction::AboutRole);
+    connect(about, &QAction::triggered, this, &MainMenu::aboutRequested);
+}
+
+void MainMenu::addQuit(QMenu& menu) {
     QAction* quit = menu.addAction(u"Quit Kelvane"_s, QKeySequence(Qt::CTRL | Qt::Key_Q));
     quit->setMenuRole(QAction::QuitRole);
     connect(quit, &QAction::triggered, this, &MainMenu::quitRequested);
@@ -54,12 +68,13 @@ void MainMenu::addEditMenu() {
     add(menu, u"Select All"_s, QKeySequence(Qt::CTRL | Qt::Key_A), "selectAll");
 }
 
-void MainMenu::addWindowMenu() {
+QMenu& MainMenu::addWindowMenu() {
     QMenu& menu = *m_bar.addMenu(u"Window"_s);
     QAction* close = menu.addAction(u"Close"_s, QKeySequence(Qt::CTRL | Qt::Key_W));
     connect(close, &QAction::triggered, this, &MainMenu::closeRequested);
     QAction* minimize = menu.addAction(u"Minimize"_s, QKeySequence(Qt::CTRL | Qt::Key_M));
     connect(minimize, &QAction::triggered, this, &MainMenu::minimizeRequested);
+    return menu;
 }
 
 bool MainMenu::eventFilter(QObject* watched, QEvent* event) {

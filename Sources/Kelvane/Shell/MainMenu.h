@@ -11,7 +11,10 @@ class MainMenu : public QObject {
     Q_OBJECT
 
 public:
-    MainMenu();
+    /// Who makes the menu that bears the application's name. The system's has its own item for hiding.
+    enum class ApplicationMenu { ours, systems };
+
+    explicit MainMenu(ApplicationMenu applicationMenu);
 
     QMenuBar& bar() { return m_bar; }
 
@@ -26,8 +29,10 @@ Q_SIGNALS:
 
 private:
     void addApplicationMenu();
+    void addAbout(QMenu& menu);
+    void addQuit(QMenu& menu);
     void addEditMenu();
-    void addWindowMenu();
+    QMenu& addWindowMenu();
 
     QMenuBar m_bar;
 };
