@@ -92,7 +92,6 @@ FocusScope {
             // Words give way to a narrow window, the names on the buttons before them.
             terse: figuresWidth + edit.narrowest + apply.width + 98 > bar.width
             anchors.verticalCenter: parent.verticalCenter
-            anchors.verticalCenterOffset: 1
             added: DockViewModel.added
             leaving: DockViewModel.leaving
             moved: DockViewModel.moved

@@ -13,6 +13,14 @@ Item {
     property bool terse: false
     readonly property alias hovered: hover.hovered
 
+    // What is on show: it runs down to none when the change was made.
+    property real shownCount: root.count
+    Behavior on shownCount {
+        id: counting
+        enabled: counting.targetValue === 0
+        NumberAnimation { duration: Theme.applyTime; easing.type: Easing.InOutCubic }
+    }
+
     readonly property real fullWidth: words.x + words.implicitWidth
 
     implicitWidth: root.terse ? figure.x + figure.width : root.fullWidth
@@ -30,7 +38,7 @@ Item {
         id: figure
         x: 25
         anchors.verticalCenter: parent.verticalCenter
-        text: root.count
+        text: Math.round(root.shownCount)
         type: root.count === 0 ? Theme.figureZero : Theme.figure
         color: root.count === 0 ? Theme.text3 : Theme.text
         Accessible.ignored: true

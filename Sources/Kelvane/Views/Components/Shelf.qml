@@ -13,6 +13,9 @@ Rectangle {
     // One of the marks; tiles without it step back.
     property string highlight: ""
     readonly property color plate: root.suggested ? Theme.surface : Theme.shelf
+    // A suggestion follows an edit at once; the Dock as it is takes its new order visibly.
+    readonly property int moveTime: root.suggested ? Theme.tileTime : Theme.applyTime
+    readonly property int moveCurve: root.suggested ? Easing.OutCubic : Easing.InOutCubic
 
     implicitHeight: Math.max(tileMetrics.height, flow.height) + 17
     radius: 18
@@ -34,6 +37,13 @@ Rectangle {
 
         Repeater {
             model: root.tiles
+            onItemRemoved: (index, item) => {
+                if (root.visible && root.moveTime > 0)
+                    departing.createObject(root, {
+                        x: flow.x + item.x, y: flow.y + item.y, name: item.name, iconSource: item.iconSource,
+                        accessibleName: "", mark: item.mark, pinned: item.pinned, spacer: item.spacer
+                    });
+            }
             delegate: TileView {
                 metrics: tileMetrics
                 plate: root.plate
@@ -42,11 +52,28 @@ Rectangle {
         }
         // A tile that has to make room while it arrives goes on arriving.
         move: Transition {
-            NumberAnimation { properties: "x,y"; duration: Theme.tileTime; easing.type: Easing.OutCubic }
-            NumberAnimation { property: "presence"; to: 1; duration: Theme.tileTime; easing.type: Easing.OutCubic }
+            NumberAnimation { properties: "x,y"; duration: root.moveTime; easing.type: root.moveCurve }
+            NumberAnimation { property: "presence"; to: 1; duration: root.moveTime; easing.type: root.moveCurve }
         }
         add: Transition {
-            NumberAnimation { property: "presence"; from: 0; to: 1; duration: Theme.tileTime; easing.type: Easing.OutCubic }
+            NumberAnimation { property: "presence"; from: 0; to: 1; duration: root.moveTime; easing.type: root.moveCurve }
+        }
+    }
+    // A tile that is no longer in the list: it fades where it stood while the others close the gap.
+    Component {
+        id: departing
+
+        TileView {
+            id: leftTile
+            metrics: tileMetrics
+            plate: root.plate
+            Accessible.ignored: true
+            NumberAnimation on opacity {
+                to: 0
+                duration: root.moveTime
+                easing.type: root.moveCurve
+                onFinished: leftTile.destroy()
+            }
         }
     }
     Label {
