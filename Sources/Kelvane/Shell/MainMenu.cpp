@@ -45,13 +45,13 @@ void MainMenu::addApplicationMenu() {
     addQuit(menu);
 }
 
-void MainMenu::addAbout(QMenu& menu) {
+void MainMenu::addAbout(QMenu& menu) const {
     QAction* about = menu.addAction(u"About Kelvane"_s);
     about->setMenuRole(QAction::AboutRole);
     connect(about, &QAction::triggered, this, &MainMenu::aboutRequested);
 }
 
-void MainMenu::addQuit(QMenu& menu) {
+void MainMenu::addQuit(QMenu& menu) const {
     QAction* quit = menu.addAction(u"Quit Kelvane"_s, QKeySequence(Qt::CTRL | Qt::Key_Q));
     quit->setMenuRole(QAction::QuitRole);
     connect(quit, &QAction::triggered, this, &MainMenu::quitRequested);

@@ -29,8 +29,8 @@ Q_SIGNALS:
 
 private:
     void addApplicationMenu();
-    void addAbout(QMenu& menu);
-    void addQuit(QMenu& menu);
+    void addAbout(QMenu& menu) const;
+    void addQuit(QMenu& menu) const;
     void addEditMenu();
     QMenu& addWindowMenu();
 
