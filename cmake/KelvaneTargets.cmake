@@ -16,9 +16,9 @@ function(kelvane_target target)
 endfunction()
 
 # A Qt Test program of one source file, registered with CTest under its own name; "sanitized." goes before it where a
-# sanitizer watches, so that a run over several builds can tell them apart.
+# sanitizer watches, so that a run over several builds can tell them apart. PROPERTIES are CTest's.
 function(kelvane_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 TEST "" "" "SOURCES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 TEST "" "" "SOURCES;LIBRARIES;PROPERTIES")
     add_executable(${name} ${TEST_SOURCES})
     kelvane_target(${name})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/Tests")
@@ -28,5 +28,5 @@ function(kelvane_test name)
         set(registered sanitized.${name})
     endif()
     add_test(NAME ${registered} COMMAND ${name})
-    set_tests_properties(${registered} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+    set_tests_properties(${registered} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" ${TEST_PROPERTIES})
 endfunction()
