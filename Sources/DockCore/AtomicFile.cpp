@@ -2,6 +2,7 @@
 
 #include "DockCore/Error.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -16,9 +17,24 @@ FileError saveError(const QString& path, const QString& reason) {
     return FileError(u"“%1” could not be saved: %2%3"_s.arg(QFileInfo(path).fileName(), reason, stop));
 }
 
+/// The file is already what saving would make of it.
+bool holds(const QString& path, const QByteArray& bytes, AtomicFile::Access access) {
+    const QFileInfo info(path);
+    if (!info.isFile() || info.size() != bytes.size())
+        return false;
+    constexpr auto others = QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ExeGroup |
+                            QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther;
+    if (access == AtomicFile::Access::ownerOnly && (info.permissions() & others))
+        return false;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) && file.read(bytes.size()) == bytes;
+}
+
 } // namespace
 
 void AtomicFile::save(const QByteArray& bytes, const QString& path, Access access) {
+    if (holds(path, bytes, access))
+        return;
     const bool isNew = !QFileInfo::exists(path);
     QSaveFile file(path);
     // Unbuffered, because QSaveFile does not notice when its buffer finds no room on a full disk, and would put an

@@ -12,7 +12,8 @@ namespace AtomicFile {
 /// before.
 enum class Access { ownerOnly, asBefore };
 
-/// Puts `bytes` into the file at `path`; throws FileError, and then the file is as it was.
+/// Puts `bytes` into the file at `path` and waits until the disk has them; throws FileError, and then the file is as it
+/// was. A file that holds them already is left alone, as waiting for the disk is what takes time.
 void save(const QByteArray& bytes, const QString& path, Access access);
 
 } // namespace AtomicFile

@@ -68,10 +68,11 @@ std::optional<QJsonValue> JSONFile::read(const QString& path) {
     if (!QFileInfo(path).isFile())
         return std::nullopt;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.size() > largestFile)
         return std::nullopt;
-    const QByteArray bytes = file.read(largestFile + 1);
-    if (file.error() != QFileDevice::NoError || bytes.size() > largestFile)
+    // No more than is there: reading sets aside at once what it is asked for.
+    const QByteArray bytes = file.read(file.size());
+    if (file.error() != QFileDevice::NoError)
         return std::nullopt;
     const QJsonDocument document = QJsonDocument::fromJson(bytes);
     if (document.isObject())

@@ -16,7 +16,8 @@ void install(const Platform* platform) {
 
 const Platform& Platform::current() {
     const Platform* platform = installed;
-    Q_ASSERT_X(platform != nullptr, "Platform::current", "no platform is installed");
+    if (platform == nullptr)
+        qFatal("No platform is installed.");
     return *platform;
 }
 

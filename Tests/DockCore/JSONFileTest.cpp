@@ -16,6 +16,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <filesystem>
 #include <limits>
 
 using namespace DockCore;
@@ -71,8 +72,35 @@ private Q_SLOTS:
         QCOMPARE(content(path()), first);
     }
 
+    void aFileThatHoldsTheValueIsLeftAlone() {
+        JSONFile::save(QJsonArray{1}, path());
+        const auto replaced = [this](const QJsonValue& value) {
+            // A second name keeps the file that a new one takes the place of.
+            const QString kept = m_folder->filePath(u"kept.json"_s);
+            QFile::remove(kept);
+            std::filesystem::create_hard_link(path().toStdString(), kept.toStdString());
+            JSONFile::save(value, path());
+            return !std::filesystem::equivalent(path().toStdString(), kept.toStdString());
+        };
+        QVERIFY(!replaced(QJsonArray{1}));
+        QVERIFY(replaced(QJsonArray{2}));
+        QCOMPARE(content(path()), "[\n    2\n]\n");
+        // As long, but not the same.
+        QVERIFY(replaced(QJsonArray{3}));
+        QVERIFY(!replaced(QJsonArray{3}));
+        QVERIFY(QFile::remove(path()));
+        JSONFile::save(QJsonArray{3}, path());
+        QCOMPARE(content(path()), "[\n    3\n]\n");
+    }
+
+    void isReadableByTheUserAlone_data() {
+        QTest::addColumn<QByteArray>("before");
+        QTest::newRow("a file that held something else") << QByteArray("[]");
+        QTest::newRow("a file that held the same") << QByteArray("[\n    1\n]\n");
+    }
     void isReadableByTheUserAlone() {
-        put(path(), "[]");
+        QFETCH(const QByteArray, before);
+        put(path(), before);
         QVERIFY(
             QFile::setPermissions(path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadOther));
         JSONFile::save(QJsonArray{1}, path());
