@@ -2,10 +2,12 @@
 
 #include "DockCore/JSONFile.h"
 #include "DockCore/PropertyList.h"
+#include "DockCore/Settings.h"
 #include "DockCore/UsageStore.h"
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -33,6 +35,7 @@ PropertyList info(const QString& identifier, const QString& name) {
         {u"CFBundleIdentifier"_s, {identifier}},
         {u"CFBundleName"_s, {name}},
         {u"CFBundleExecutable"_s, {name}},
+        {u"CFBundleIconFile"_s, {u"Application"_s}},
         {u"CFBundleVersion"_s, {u"1207.3"_s}},
         {u"LSRequiresNativeExecution"_s, {true}},
         {u"NSHumanReadableCopyright"_s, {u"Copyright © 2026 Example. All rights reserved."_s}}};
@@ -100,6 +103,23 @@ void Fixture::makeBundle(int number) {
                                   bytes.constData(), size_t(bytes.size()), 0) == 0;
 }
 
+void Fixture::drawIcons() const {
+    constexpr int side = 128;
+    for (const AppInfo& application : m_applications) {
+        QImage picture(side, side, QImage::Format_ARGB32);
+        const uint seed = uint(qHash(application.bundleID));
+        for (int y = 0; y < side; ++y) {
+            for (int x = 0; x < side; ++x) {
+                picture.setPixel(x, y, qRgba(int(seed % 256), 2 * x, 2 * y, std::min(255, 16 * std::min(x, y))));
+            }
+        }
+        QDir().mkpath(application.path + u"/Contents/Resources"_s);
+        if (!picture.save(application.path + u"/Contents/Resources/Application.png"_s)) {
+            qFatal("the pictures could not be written");
+        }
+    }
+}
+
 void Fixture::makeUsage(int applications) const {
     UsageStore usage(usageFile());
     for (int day = storedDays - 1; day >= 0; --day) {
@@ -118,7 +138,7 @@ Profile Fixture::profile() const {
     for (int number = 0; number < 5; ++number) {
         pinned.append(identifier(number));
     }
-    Profile profile = Profile::make(u"Bench"_s, u"star"_s, pinned, {}, 19, UsageWindow::month, false);
+    Profile profile = Profile::make(u"Bench"_s, u"briefcase"_s, pinned, {}, 19, UsageWindow::month, false);
     profile.id = QUuid(u"{00000000-0000-4000-8000-000000000001}"_s);
     return profile;
 }
@@ -134,4 +154,8 @@ Profile Fixture::turnedProfile() const {
 void Fixture::makeSupport() const {
     QDir().mkpath(path("Kelvane"));
     JSONFile::save(QJsonArray{profile().toJson(), turnedProfile().toJson()}, path("Kelvane/profiles.json"));
+    AppSettings settings;
+    settings.onboarded = true;
+    settings.activeProfileID = profile().id;
+    JSONFile::save(settings.toJson(), path("Kelvane/settings.json"));
 }

@@ -18,6 +18,9 @@ public:
     Fixture(const Fixture&) = delete;
     Fixture& operator=(const Fixture&) = delete;
 
+    /// Gives every application a picture.
+    void drawIcons() const;
+
     const QStringList& infoFiles() const { return m_infoFiles; }
     const QList<DockCore::DockTile>& tiles() const { return m_tiles; }
     QString usageFile() const { return path("Kelvane/usage.json"); }

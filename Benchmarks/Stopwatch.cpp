@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <ctime>
-#include <vector>
 
 namespace {
 
@@ -19,13 +18,13 @@ double seconds(Stopwatch::Time time, const std::function<void()>& work) {
     return now(clock) - start;
 }
 
-double middle(std::vector<double> times) {
-    const auto half = times.begin() + std::ptrdiff_t(times.size() / 2);
-    std::nth_element(times.begin(), half, times.end());
+} // namespace
+
+double Stopwatch::middle(std::vector<double> values) {
+    const auto half = values.begin() + std::ptrdiff_t(values.size() / 2);
+    std::nth_element(values.begin(), half, values.end());
     return *half;
 }
-
-} // namespace
 
 Stopwatch::Pair Stopwatch::medians(Time time, int runs, const std::function<void()>& work,
                                    const std::function<void()>& floor, const std::function<void()>& prepare) {

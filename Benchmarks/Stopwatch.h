@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 /// Measures in seconds. Single runs on a busy machine vary, so all that is reported are medians.
 namespace Stopwatch {
@@ -17,5 +18,6 @@ enum class Time { passed, processor };
 /// moods of the machine; before each turn comes an unmeasured `prepare`.
 Pair medians(Time time, int runs, const std::function<void()>& work, const std::function<void()>& floor,
              const std::function<void()>& prepare = {});
+double middle(std::vector<double> values);
 
 } // namespace Stopwatch

@@ -12,6 +12,11 @@ QByteArray milliseconds(double seconds) {
     return QByteArray::number(seconds * 1000, 'f', seconds < 0.001 ? 3 : 2) + " ms";
 }
 
+QByteArray amount(double amount, Figure::Unit unit) {
+    constexpr double megabyte = 1024 * 1024;
+    return unit == Figure::Unit::time ? milliseconds(amount) : QByteArray::number(amount / megabyte, 'f', 2) + " MB";
+}
+
 const char* verdict(bool isWithinAim) {
     return isWithinAim ? "met" : "MISSED";
 }
@@ -19,7 +24,7 @@ const char* verdict(bool isWithinAim) {
 } // namespace
 
 bool Figure::isWithinAim() const {
-    return (!ratioAim || measured <= *ratioAim * floor) && (!timeAim || measured <= *timeAim);
+    return (!ratioAim || pair.measured <= *ratioAim * pair.floor) && (!timeAim || pair.measured <= *timeAim);
 }
 
 double GrowthFigure::steepness() const {
@@ -40,8 +45,9 @@ void Table::print(const QList<Figure>& figures) {
             aim += verdict(figure.isWithinAim());
         }
         std::printf("%-50s %11s %11s %7.2fx  %-14s %s\n", qUtf8Printable(figure.name),
-                    milliseconds(figure.measured).constData(), milliseconds(figure.floor).constData(),
-                    figure.measured / figure.floor, aim.constData(), qUtf8Printable(figure.floorName));
+                    amount(figure.pair.measured, figure.unit).constData(),
+                    amount(figure.pair.floor, figure.unit).constData(), figure.pair.measured / figure.pair.floor,
+                    aim.constData(), qUtf8Printable(figure.floorName));
     }
 }
 

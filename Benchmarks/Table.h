@@ -1,19 +1,23 @@
 #pragma once
 
+#include "Stopwatch.h"
+
 #include <QList>
 #include <QString>
 
 #include <optional>
 
-/// One figure beside its floor. Times are in seconds.
+/// One figure beside its floor, in seconds or bytes.
 struct Figure {
+    enum class Unit { time, memory };
+
     QString name;
-    double measured = 0;
+    Stopwatch::Pair pair;
     QString floorName;
-    double floor = 0;
     /// The most that it may be, as a multiple of the floor or in seconds.
-    std::optional<double> ratioAim;
-    std::optional<double> timeAim;
+    std::optional<double> ratioAim = {};
+    std::optional<double> timeAim = {};
+    Unit unit = Unit::time;
 
     bool isWithinAim() const;
 };

@@ -15,6 +15,15 @@ function(kelvane_target target)
     endif()
 endfunction()
 
+# What the QML compiler writes for a target is not ours to warn about.
+function(kelvane_quiet_compiled_qml target)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "/qmlcache/")
+    if(sources)
+        set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
+    endif()
+endfunction()
+
 # A Qt Test program of one source file, registered with CTest under its own name; "sanitized." goes before it where a
 # sanitizer watches, so that a run over several builds can tell them apart. PROPERTIES are CTest's.
 function(kelvane_test name)

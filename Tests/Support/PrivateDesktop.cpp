@@ -48,7 +48,7 @@ PrivateDesktop::~PrivateDesktop() {
 bool PrivateDesktop::startDisplay() {
     m_display = std::make_unique<QProcess>();
     QStringList arguments = {u"-displayfd"_s, u"1"_s,       u"-noreset"_s, u"-nolisten"_s,
-                             u"tcp"_s,        u"-screen"_s, u"0"_s,        u"640x480x24"_s};
+                             u"tcp"_s,        u"-screen"_s, u"0"_s,        u"1280x1024x24"_s};
     if (!m_displayNumber.isEmpty())
         arguments.prepend(u':' + QString::fromLatin1(m_displayNumber));
     const QByteArray number = firstLine(*m_display, u"Xvfb"_s, arguments);

@@ -1,0 +1,93 @@
+#include "Kelvane/AppModel.h"
+#include "Kelvane/Shell/AppDelegate.h"
+#include "Platform/Linux/LinuxDesktop.h"
+#include "Platform/Linux/LinuxPlatform.h"
+#include "Window/ListScroll.h"
+#include "Window/Subject.h"
+
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+using namespace DockCore;
+using namespace Kelvane;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int rounds = 3;
+constexpr int savedDocks = 12;
+constexpr int pinned = 40;
+constexpr int usageSlots = 20;
+
+class KelvaneSubject : public Subject {
+public:
+    KelvaneSubject() {
+        QEventLoop loop;
+        QObject::connect(&m_model, &AppModel::refreshed, &loop, &QEventLoop::quit);
+        m_delegate.finishLaunching(AppDelegate::Window::onFirstRun);
+        loop.exec();
+    }
+
+    void open() override { m_delegate.showWindow(); }
+
+    QQuickWindow& window() override {
+        for (QWindow* candidate : QGuiApplication::topLevelWindows()) {
+            if (auto* window = qobject_cast<QQuickWindow*>(candidate)) {
+                return *window;
+            }
+        }
+        qFatal("the application has no window");
+    }
+
+    QList<Step> steps() override {
+        fill();
+        QList<Step> steps;
+        for (int round = 0; round < rounds; ++round) {
+            steps.append({u"usage"_s, [this] { m_model.setPane(Pane::usage); }});
+            steps.append({u"profiles"_s, [this] { m_model.setPane(Pane::profiles); }});
+            steps.append({u"history"_s, [this] { m_model.setPane(Pane::history); }});
+            steps.append({u"settings"_s, [this] { m_model.setPane(Pane::settings); }});
+            steps.append({u"dock"_s, [this] { m_model.setPane(Pane::dock); }});
+        }
+        for (int round = 0; round < rounds; ++round) {
+            for (const Profile& profile : m_model.profiles()) {
+                steps.append({u"profile"_s, [this, id = profile.id] { m_model.activate(id, AppModel::Apply::no); }});
+            }
+        }
+        steps.append({u"usage"_s, [this] { m_model.setPane(Pane::usage); }});
+        steps.append(ListScroll::step(window(), u"ranking"_s));
+        return steps;
+    }
+
+private:
+    /// Profiles as large as the Dock, and saved Docks.
+    void fill() {
+        QStringList identifiers;
+        for (const DockTile& tile : m_model.current()) {
+            identifiers.append(tile.bundleID.value_or(QString()));
+        }
+        const QList<Profile> profiles = m_model.profiles();
+        for (qsizetype number = 0; number < profiles.size(); ++number) {
+            Profile profile = profiles[number];
+            profile.pinned = identifiers.mid(number * 10, pinned);
+            profile.adaptiveSlots = usageSlots;
+            m_model.update(profile);
+        }
+        for (int number = 0; number < savedDocks; ++number) {
+            m_model.snapshotStore().capture(u"Before number %1"_s.arg(number), SnapshotStore::Mark::ordinary);
+        }
+    }
+
+    LinuxPlatform m_platform;
+    PlatformScope m_scope = PlatformScope(m_platform.platform());
+    LinuxDesktop m_desktop;
+    AppModel m_model = AppModel(&m_desktop.workspace(), &m_desktop.loginItem());
+    AppDelegate m_delegate = AppDelegate(m_model, m_desktop.desktop());
+};
+
+} // namespace
+
+std::unique_ptr<Subject> Subject::kelvane() {
+    return std::make_unique<KelvaneSubject>();
+}
