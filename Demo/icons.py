@@ -1,5 +1,6 @@
 """Icons drawn from nothing: a squircle with a soft gradient and the application's initial, as an .icns file."""
 
+import functools
 import math
 import struct
 import zlib
@@ -104,6 +105,7 @@ def png(rows):
     return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", content) + chunk(b"IEND", b"")
 
 
+@functools.cache
 def icns(app):
     """An icon file with its one image, 256 pixels wide ("ic08")."""
     image = png(draw(app))

@@ -226,12 +226,9 @@ def clear(folder):
     folder.mkdir(parents=True, exist_ok=True)
 
 
-def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("folder", type=pathlib.Path)
-    parser.add_argument("--first-run", action="store_true", help="leave out profiles, settings and earlier Docks")
-    options = parser.parse_args()
-    folder = options.folder.resolve()
+def make(folder, first_run=False):
+    """`first_run` leaves out profiles, settings and earlier Docks."""
+    folder = folder.resolve()
     clear(folder)
     # The mark comes first, so that a world broken off half-way can be made anew; what it says comes last.
     mark = folder / MARK
@@ -246,11 +243,19 @@ def main():
     present = dock(world)
     world.write(folder / "Library/Preferences/com.apple.dock.plist", plistlib.dumps(present))
     world.write_json("usage.json", record)
-    if not options.first_run:
+    if not first_run:
         world.write_json("profiles.json", profiles())
         world.write_json("settings.json", settings(world))
         world.write_json("Snapshots/index.json", snapshots(world, present))
     mark.write_text(f"{folder}\n", encoding="utf-8")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("folder", type=pathlib.Path)
+    parser.add_argument("--first-run", action="store_true", help="leave out profiles, settings and earlier Docks")
+    options = parser.parse_args()
+    make(options.folder, options.first_run)
 
 
 if __name__ == "__main__":

@@ -10,6 +10,10 @@ import sys
 import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "Demo"))
+
+import make_world
+
 BINARIES = pathlib.Path(os.environ["KELVANE_BINARIES"])
 
 
@@ -19,8 +23,7 @@ class World:
     def __init__(self, first_run=False):
         # Sockets have short names, so the folder must have one too.
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="kv-", dir="/tmp"))
-        command = [sys.executable, ROOT / "Demo/make_world.py", self.folder]
-        subprocess.run(command + (["--first-run"] if first_run else []), check=True, stdout=subprocess.DEVNULL)
+        make_world.make(self.folder, first_run)
         self.support = self.folder / "Library/Application Support/Kelvane"
         self.dock_file = self.folder / "Library/Preferences/com.apple.dock.plist"
         self.environment = {
