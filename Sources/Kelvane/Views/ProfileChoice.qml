@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Kelvane
 
 // One profile to start with: what it is, how it fills, and the first icons of what it would make of the Dock.
-T.AbstractButton {
+T.RadioButton {
     id: root
 
     required property string profileId
@@ -16,12 +16,11 @@ T.AbstractButton {
 
     implicitHeight: 68
     focusPolicy: Qt.StrongFocus
+    checkable: false
+    checked: root.isChosen
     text: root.name
-    Accessible.role: Accessible.RadioButton
     Accessible.name: root.name
     Accessible.description: root.line
-    Accessible.checkable: true
-    Accessible.checked: root.isChosen
     Accessible.onPressAction: root.clicked()
     Keys.onDownPressed: root.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
     Keys.onUpPressed: root.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)

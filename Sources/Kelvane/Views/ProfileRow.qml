@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Kelvane
 
 // One profile of the list.
-T.AbstractButton {
+T.ItemDelegate {
     id: root
 
     required property string profileId
@@ -18,7 +18,6 @@ T.AbstractButton {
 
     implicitHeight: Math.max(36, label.implicitHeight + 12)
     focusPolicy: Qt.NoFocus
-    Accessible.role: Accessible.ListItem
     Accessible.name: root.title
     Accessible.description: root.isActive ? "Active" : ""
     Accessible.selectable: true

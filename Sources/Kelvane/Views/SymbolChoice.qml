@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Kelvane
 
 // One of the symbols a profile can have.
-T.AbstractButton {
+T.RadioButton {
     id: root
 
     required property string symbol
@@ -13,10 +13,9 @@ T.AbstractButton {
     implicitWidth: 30
     implicitHeight: 30
     focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.RadioButton
+    checkable: false
+    checked: root.chosen
     Accessible.name: root.symbol
-    Accessible.checkable: true
-    Accessible.checked: root.chosen
     Accessible.onPressAction: root.clicked()
     Keys.onReturnPressed: root.clicked()
     Keys.onLeftPressed: root.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)

@@ -40,6 +40,52 @@ private Q_SLOTS:
         QVERIFY(controls > 0);
     }
 
+    void everyChoiceSaysItsKindAndWhetherItIsMade_data() {
+        QTest::addColumn<int>("pane");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QAccessible::Role>("role");
+        QTest::addColumn<bool>("made");
+        QTest::newRow("the pane that shows")
+            << static_cast<int>(Pane::usage) << u"Usage"_s << QAccessible::PageTab << true;
+        QTest::newRow("another pane") << static_cast<int>(Pane::usage) << u"Dock"_s << QAccessible::PageTab << false;
+        QTest::newRow("the window that is listed")
+            << static_cast<int>(Pane::usage) << u"Last 7 days"_s << QAccessible::RadioButton << true;
+        QTest::newRow("the other window")
+            << static_cast<int>(Pane::usage) << u"Last 30 days"_s << QAccessible::RadioButton << false;
+        QTest::newRow("the profile's symbol")
+            << static_cast<int>(Pane::profiles) << u"sparkles"_s << QAccessible::RadioButton << true;
+        QTest::newRow("another symbol") << static_cast<int>(Pane::profiles) << u"house"_s << QAccessible::RadioButton
+                                        << false;
+        QTest::newRow("the profile that is edited")
+            << static_cast<int>(Pane::profiles) << u"Everyday"_s << QAccessible::ListItem << true;
+        QTest::newRow("another profile") << static_cast<int>(Pane::profiles) << u"Coding"_s << QAccessible::ListItem
+                                         << false;
+    }
+    void everyChoiceSaysItsKindAndWhetherItIsMade() {
+        QFETCH(int, pane);
+        QFETCH(QString, name);
+        WindowWorld mac;
+        mac.open(static_cast<Pane>(pane));
+        QQuickItem* item = mac.find(name);
+        QVERIFY(item != nullptr);
+        const QAccessibleInterface* choice = QAccessible::queryAccessibleInterface(item);
+        QTEST(choice->role(), "role");
+        QTEST(choice->state().checked || choice->state().selected, "made");
+    }
+
+    void aMenuSaysWhichOfItsChoicesIsMade() {
+        WindowWorld mac;
+        mac.open(Pane::settings);
+        mac.click(u"Reorganize automatically"_s);
+        for (const QString& name : {u"Once a day"_s, u"Every hour"_s}) {
+            QQuickItem* item = mac.find(name);
+            QVERIFY2(item != nullptr, qPrintable(name));
+            const QAccessibleInterface* choice = QAccessible::queryAccessibleInterface(item);
+            QCOMPARE(choice->role(), QAccessible::MenuItem);
+            QCOMPARE(bool(choice->state().checked), name == u"Once a day");
+        }
+    }
+
 private:
     static bool isControl(QAccessible::Role role) {
         static const QSet<QAccessible::Role> roles = {

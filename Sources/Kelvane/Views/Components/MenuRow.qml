@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Kelvane
 
 // One choice of a menu.
-T.ItemDelegate {
+T.MenuItem {
     id: root
 
     required property string symbol
@@ -17,9 +17,9 @@ T.ItemDelegate {
     implicitWidth: root.textStart + label.implicitWidth + 16
     implicitHeight: Math.max(28, label.implicitHeight + 8)
     hoverEnabled: true
-    Accessible.role: Accessible.MenuItem
+    checkable: false
+    checked: root.chosen
     Accessible.name: root.text
-    Accessible.checkable: true
     Accessible.checked: root.chosen
     Accessible.onPressAction: root.clicked()
 

@@ -30,7 +30,7 @@ FocusScope {
 
         Repeater {
             model: root.options
-            delegate: T.AbstractButton {
+            delegate: T.RadioButton {
                 id: segment
 
                 required property int index
@@ -41,12 +41,11 @@ FocusScope {
                 implicitWidth: words.implicitWidth + 24
                 implicitHeight: Math.max(26, words.implicitHeight + 6)
                 focusPolicy: Qt.StrongFocus
+                checkable: false
+                checked: segment.current
                 focus: segment.current
                 onClicked: root.activated(segment.index)
-                Accessible.role: Accessible.RadioButton
                 Accessible.name: segment.text
-                Accessible.checkable: true
-                Accessible.checked: segment.current
                 Accessible.onPressAction: segment.clicked()
                 Keys.onLeftPressed: root.activated(Math.max(0, root.currentIndex - 1))
                 Keys.onRightPressed: root.activated(Math.min(root.options.length - 1, root.currentIndex + 1))

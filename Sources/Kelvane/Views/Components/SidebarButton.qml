@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Kelvane
 
 // One row of the sidebar; choosing it shows its pane.
-T.AbstractButton {
+T.TabButton {
     id: root
 
     required property string pane
@@ -17,7 +17,6 @@ T.AbstractButton {
     checkable: false
     checked: root.current
     onClicked: App.pane = root.pane
-    Accessible.role: Accessible.PageTab
     Accessible.name: root.text
     Accessible.selected: root.current
     Accessible.onPressAction: root.clicked()
