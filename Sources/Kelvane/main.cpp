@@ -10,8 +10,10 @@
 #include "Kelvane/Commands/InstanceLock.h"
 #include "Kelvane/Shell/AppDelegate.h"
 #include "Kelvane/Uninstall.h"
+#include "Kelvane/UsageTracker.h"
 #include "Platform/Posix/Terminal.h"
 #include "Platform/Posix/TerminationSignals.h"
+#include "Platform/Posix/UnaskedExit.h"
 #include "Platform/SelfTest.h"
 #include "Platform/SystemDesktop.h"
 #include "Platform/SystemPlatform.h"
@@ -97,5 +99,6 @@ int main(int argc, char** argv) {
     QObject::connect(&server, &CommandServer::showRequested, &delegate, &AppDelegate::showWindow);
     delegate.finishLaunching(arguments.contains(u"--show") ? AppDelegate::Window::show
                                                            : AppDelegate::Window::onFirstRun);
+    const UnaskedExit unaskedExit([&model] { model.tracker().flush(); });
     return QApplication::exec();
 }
