@@ -30,10 +30,10 @@ void AppDelegate::finishLaunching(Window window) {
     m_desktop.setActivationPolicy(Desktop::ActivationPolicy::accessory);
     m_model.start();
     makeStatusItem();
-    if (!m_model.settings().onboarded || window == Window::show)
+    const QString folder = qEnvironmentVariable("KELVANE_SHOTS");
+    if (!m_model.settings().onboarded || window == Window::show || !folder.isEmpty())
         showWindow();
-    if (const QString folder = qEnvironmentVariable("KELVANE_SHOTS"); !folder.isEmpty()) {
-        showWindow();
+    if (!folder.isEmpty()) {
         m_screenImages = std::make_unique<ScreenImages>(m_model, m_desktop, *m_window, folder);
         connect(m_screenImages.get(), &ScreenImages::finished, qApp, &QCoreApplication::quit);
         m_screenImages->start();
@@ -41,6 +41,9 @@ void AppDelegate::finishLaunching(Window window) {
 }
 
 void AppDelegate::makeStatusItem() {
+    // Without a display no panel will ever take it, and Qt complains when it is offered.
+    if (QGuiApplication::platformName() == u"offscreen")
+        return;
     m_statusItem.setIcon(MenuSymbol::icon(m_desktop, u"dock.rectangle"_s, u"Kelvane"_s));
     m_statusItem.setToolTip(u"Kelvane"_s);
     m_statusItem.setContextMenu(&m_statusMenu.menu());

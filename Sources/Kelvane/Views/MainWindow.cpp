@@ -1,5 +1,6 @@
 #include "Kelvane/Views/MainWindow.h"
 
+#include "Kelvane/AppModel.h"
 #include "Kelvane/Ports/Desktop.h"
 #include "Kelvane/Views/IconProvider.h"
 #include "Kelvane/Views/ShadowProvider.h"
@@ -29,7 +30,7 @@ MainWindow::MainWindow(AppModel& model, Desktop& desktop)
 
 MainWindow::~MainWindow() {
     if (m_window && m_window->isVisible())
-        WindowFrame::save(m_window->geometry());
+        remember();
 }
 
 void MainWindow::show() {
@@ -42,7 +43,8 @@ void MainWindow::show() {
         m_window->showNormal();
     else
         m_window->show();
-    if (wasVisible)
+    // Without a display nothing lies above anything else, and Qt complains when it is asked.
+    if (wasVisible && QGuiApplication::platformName() != u"offscreen")
         m_window->raise();
     m_window->requestActivate();
 }
@@ -85,7 +87,7 @@ void MainWindow::setContent(AppFacade::Content content) {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_window && event->type() == QEvent::Close) {
-        WindowFrame::save(m_window->geometry());
+        remember();
         Q_EMIT closing();
     }
     return QObject::eventFilter(watched, event);
@@ -112,6 +114,12 @@ void MainWindow::make() {
     });
     place();
     m_desktop.prepareMainWindow(*m_window);
+}
+
+void MainWindow::remember() const {
+    // A window that was opened for pictures says nothing about where its owner wants it.
+    if (!m_context.model.isCapturing())
+        WindowFrame::save(m_window->geometry());
 }
 
 void MainWindow::place() {

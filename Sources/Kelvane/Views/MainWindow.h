@@ -47,6 +47,7 @@ protected:
 private:
     void make();
     void place();
+    void remember() const;
 
     ViewContext m_context;
     ViewContextScope m_scope;

@@ -14,9 +14,11 @@ bool canReachXServer() {
 } // namespace
 
 void LinuxDesktop::prepareEnvironment() {
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
-        return;
     // The application object ends the process when the display it expects is not there.
-    if (!canReachXServer())
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+        !canReachXServer())
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Where no screen says how dense it is, pictures are made for dense ones.
+    if (qgetenv("QT_QPA_PLATFORM") == "offscreen" && !qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
+        qputenv("QT_SCALE_FACTOR", "2");
 }

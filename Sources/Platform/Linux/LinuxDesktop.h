@@ -8,7 +8,7 @@
 class LinuxDesktop {
 public:
     /// What must be settled before the application object is made: without a display to show itself on the application
-    /// runs on without a window, and keeps its schedule.
+    /// runs on without a window, keeps its schedule, and makes its pictures for a dense screen.
     static void prepareEnvironment();
 
     Kelvane::Workspace& workspace() { return m_workspace; }
