@@ -3,53 +3,14 @@ beside it."""
 
 import concurrent.futures
 import json
-import os
 import plistlib
 import signal
 import socket
-import subprocess
 import time
 import unittest
 
-from desktop import Desktop, Menu, until
-from world import BINARIES, World
-
-
-class ApplicationTest(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.desktop = Desktop()
-        cls.addClassCleanup(cls.desktop.close)
-
-    def setUp(self):
-        self.world = World()
-        self.addCleanup(self.world.remove)
-        self.application = None
-        self.addCleanup(self.stop)
-
-    def launch(self, *arguments, **changes):
-        self.application = self.start(*arguments, **changes)
-        until(lambda: (self.world.support / "socket").exists() or self.application.poll() is not None)
-        self.assertIsNone(self.application.poll(), "it ended at once")
-        return self.application
-
-    def start(self, *arguments, **changes):
-        environment = {**self.world.environment, **self.desktop.environment, **changes}
-        self.errors = open(self.world.folder / "errors", "ab")
-        self.addCleanup(self.errors.close)
-        return subprocess.Popen([BINARIES / "kelvane", *arguments], env=environment, stdin=subprocess.DEVNULL,
-                                stdout=subprocess.DEVNULL, stderr=self.errors)
-
-    def stop(self):
-        if self.application and self.application.poll() is None:
-            self.application.kill()
-            self.application.wait()
-
-    def windows(self):
-        return self.desktop.windows(self.application.pid)
-
-    def settings(self):
-        return self.world.json("settings.json")
+from application import ApplicationTest
+from desktop import Menu, until
 
 
 class StatusMenu(ApplicationTest):
@@ -103,17 +64,6 @@ class Life(ApplicationTest):
         self.launch()
         Menu(self.desktop).labels()
         self.assertEqual(self.windows(), [])
-
-    def test_the_first_run_opens_by_itself_and_comes_back(self):
-        self.world.remove()
-        self.world = World(first_run=True)
-        self.addCleanup(self.world.remove)
-        for _ in range(2):
-            self.launch()
-            until(self.windows)
-            self.application.terminate()
-            self.assertEqual(self.application.wait(20), 0)
-            self.assertFalse(self.settings()["onboarded"])
 
     def test_show_opens_the_window_and_closing_keeps_the_process(self):
         self.launch("--show")

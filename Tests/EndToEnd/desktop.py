@@ -2,9 +2,11 @@
 
 import os
 import pathlib
+import shutil
 import signal
 import subprocess
 import sys
+import tempfile
 import time
 
 HERE = pathlib.Path(__file__).resolve().parent
@@ -25,16 +27,16 @@ def until(condition, seconds=20):
 class Desktop:
     def __init__(self):
         self.processes = []
-        self.display = self.start_x()
-        self.address = self.start_bus()
+        # Made readable for nobody else, as sessions have it; sockets have short names, so it must have one too.
+        self.runtime = tempfile.mkdtemp(prefix="kv-", dir="/tmp")
         self.environment = {
-            "DISPLAY": self.display,
-            "DBUS_SESSION_BUS_ADDRESS": self.address,
+            "DISPLAY": self.start_x(),
             # Nothing of the machine's own is to be found there.
             "DBUS_SYSTEM_BUS_ADDRESS": "unix:path=/nonexistent",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-            "XDG_RUNTIME_DIR": "/nonexistent",
+            "XDG_RUNTIME_DIR": self.runtime,
         }
+        self.address = self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.start_bus()
         self.start(["openbox", "--config-file", "/etc/xdg/openbox/rc.xml"])
         watcher = self.start([sys.executable, "-B", HERE / "status_notifier_watcher.py"], stdout=subprocess.PIPE)
         assert watcher.stdout.readline() == b"ready\n"
@@ -42,17 +44,16 @@ class Desktop:
 
     def start_x(self):
         read, write = os.pipe()
-        self.processes.append(subprocess.Popen(
+        self.x_server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24", "-noreset", "-nolisten", "tcp"],
-            pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+            pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.processes.append(self.x_server)
         os.close(write)
         with os.fdopen(read) as pipe:
             return ":" + pipe.readline().strip()
 
     def start_bus(self):
-        bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE,
-                               stderr=subprocess.DEVNULL, env={**os.environ, "DISPLAY": self.display})
-        self.processes.append(bus)
+        bus = self.start(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE)
         return bus.stdout.readline().decode().strip()
 
     def start(self, command, **options):
@@ -80,12 +81,21 @@ class Desktop:
         self.output("xdotool", "mousemove", str(x), str(y))
         self.output("xdotool", "click", "--repeat", str(times), "--delay", "60", "1")
 
+    def drag(self, start, end):
+        """Presses at one place, goes to the other on a straight line, and lets go there."""
+        self.output("xdotool", "mousemove", *map(str, start), "mousedown", "1")
+        for step in range(1, 9):
+            place = [round(a + (b - a) * step / 8) for a, b in zip(start, end)]
+            self.output("xdotool", "mousemove", *map(str, place))
+        self.output("xdotool", "mouseup", "1")
+
     def close(self):
         for process in reversed(self.processes):
             process.send_signal(signal.SIGKILL)
             process.wait()
             if process.stdout:
                 process.stdout.close()
+        shutil.rmtree(self.runtime, ignore_errors=True)
 
 
 class Menu:

@@ -1,0 +1,156 @@
+"""What a window shows, read as a screen reader reads it, and hands that click and type where it shows it."""
+
+import dbus
+import dbus.bus
+
+from desktop import until
+
+ACCESSIBLE, COMPONENT = "org.a11y.atspi.Accessible", "org.a11y.atspi.Component"
+# Where the states are in the two words that tell them.
+STATES = {"active": 1, "checked": 4, "focused": 12, "selected": 23, "showing": 25}
+
+
+class Control:
+    """One thing on the screen. It may go at any moment; whoever asks it then gets a DBusException."""
+
+    def __init__(self, bus, service, path):
+        self.bus, self.reference = bus, (str(service), str(path))
+        self.object = bus.get_object(service, path, introspect=False)
+
+    def __eq__(self, other):
+        return isinstance(other, Control) and self.reference == other.reference
+
+    def ask(self, name):
+        return str(self.object.Get(ACCESSIBLE, name, dbus_interface=dbus.PROPERTIES_IFACE))
+
+    @property
+    def name(self):
+        return self.ask("Name")
+
+    @property
+    def description(self):
+        return self.ask("Description")
+
+    @property
+    def role(self):
+        return str(self.object.GetRoleName(dbus_interface=ACCESSIBLE))
+
+    @property
+    def text(self):
+        """What stands in a text field."""
+        return str(self.object.GetText(dbus.Int32(0), dbus.Int32(-1), dbus_interface="org.a11y.atspi.Text"))
+
+    @property
+    def children(self):
+        return [Control(self.bus, *child) for child in self.object.GetChildren(dbus_interface=ACCESSIBLE)]
+
+    @property
+    def states(self):
+        words = self.object.GetState(dbus_interface=ACCESSIBLE)
+        return {name for name, place in STATES.items() if int(words[0]) >> place & 1}
+
+    @property
+    def place(self):
+        """Left, top, width and height on the screen."""
+        return tuple(int(value) for value in self.object.GetExtents(dbus.UInt32(0), dbus_interface=COMPONENT))
+
+    @property
+    def middle(self):
+        left, top, width, height = self.place
+        return left + width // 2, top + height // 2
+
+    def all(self):
+        """Itself and everything in it that shows, in the order of the tree."""
+        if "showing" in self.states:
+            yield self
+            for child in self.children:
+                yield from child.all()
+
+
+class Window:
+    """The window of one process. Things are called what a screen reader calls them; whatever is asked for is waited for."""
+
+    def __init__(self, desktop, pid):
+        self.desktop, self.pid = desktop, pid
+        session = dbus.bus.BusConnection(desktop.address)
+        address = session.get_object("org.a11y.Bus", "/org/a11y/bus").GetAddress(dbus_interface="org.a11y.Bus")
+        session.close()
+        self.bus = dbus.bus.BusConnection(str(address))
+        until(self.roots)
+
+    def close(self):
+        self.bus.close()
+
+    # Looking
+
+    def process(self, service):
+        return self.bus.call_blocking("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                                      "GetConnectionUnixProcessID", "s", (service,))
+
+    def roots(self):
+        registry = Control(self.bus, "org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
+        return [child for child in registry.children if self.process(child.reference[0]) == self.pid]
+
+    def all(self, name=None, role=None, about=None):
+        """Everything that shows and has these, in reading order; `about` is the description."""
+        def walk():
+            try:
+                return [[control for root in self.roots() for control in root.all()
+                         if name in (None, control.name) and role in (None, control.role)
+                         and about in (None, control.description)]]
+            except dbus.DBusException:
+                # Something went while it was looked at.
+                return None
+        return until(walk)[0]
+
+    def find(self, name, role=None, about=None):
+        """The first that has these."""
+        try:
+            return until(lambda: self.all(name, role, about))[0]
+        except AssertionError:
+            shown = [control.name for control in self.all() if control.name]
+            raise AssertionError(f"there is no {name!r} ({role}, {about}) among {shown}") from None
+
+    def shows(self, name, role=None):
+        return bool(self.all(name, role))
+
+    def await_gone(self, name, role=None):
+        until(lambda: not self.shows(name, role))
+
+    def names(self, name, role=None):
+        """Names of what lies in the thing of that name."""
+        return [child.name for child in self.find(name, role).children]
+
+    def focused(self):
+        """What takes the keys; of things in each other the innermost."""
+        return next((control for control in reversed(self.all()) if "focused" in control.states), None)
+
+    # Acting
+
+    def has_keys(self):
+        return "active" in self.find("Kelvane", "frame").states
+
+    def take_keys(self):
+        self.desktop.output("xdotool", "windowactivate", until(lambda: self.desktop.windows(self.pid))[0])
+        until(self.has_keys)
+
+    def place(self, name, role=None, about=None):
+        """The middle of a control, once it has come to rest."""
+        self.find(name, role, about)
+        seen = []
+
+        def rests():
+            for control in self.all(name, role, about)[:1]:
+                try:
+                    seen.append(control.middle)
+                except dbus.DBusException:
+                    continue
+            return len(seen) > 1 and seen[-1] == seen[-2]
+        until(rests)
+        return seen[-1]
+
+    def click(self, name, role=None, about=None):
+        self.desktop.click(*self.place(name, role, about))
+
+    def keys(self, *keys):
+        self.desktop.key(*keys)
