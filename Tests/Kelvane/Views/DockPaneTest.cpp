@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 using namespace DockCore;
 using namespace Kelvane;
 using namespace Fakes;
@@ -39,6 +41,31 @@ private Q_SLOTS:
         QCOMPARE(mac.world.dock(), (QStringList{u"Mail"_s, u"Terminal"_s}));
         QVERIFY(!mac.find(u"Matches your Dock"_s)->isEnabled());
         QVERIFY(QTest::qWaitFor([&] { return mac.find(u"Dock updated for Work."_s) != nullptr; }));
+    }
+
+    void whatLeavesFadesAndIsGone() {
+        WindowWorld mac;
+        pinActive(*mac.model, {u"Mail"_s, u"Terminal"_s});
+        mac.open(Pane::dock);
+        const auto tiles = [&mac] {
+            QList<QQuickItem*> tiles;
+            for (QQuickItem* item : mac.quick()->findChildren<QQuickItem*>()) {
+                if (item->isVisible() && QByteArrayView(item->metaObject()->className()).startsWith("TileView"))
+                    tiles.append(item);
+            }
+            return tiles;
+        };
+        QCOMPARE(tiles().size(), 8 + 2);
+        int fading = 0;
+        connect(mac.quick(), &QQuickWindow::afterAnimating, this, [&] {
+            fading += static_cast<int>(std::ranges::count_if(tiles(), [](const QQuickItem* tile) {
+                return tile->property("name") == u"Maps"_s && tile->opacity() > 0 && tile->opacity() < 1;
+            }));
+        });
+        mac.click(u"Apply to Dock"_s);
+        QVERIFY(mac.waitForChange());
+        QTRY_COMPARE(tiles().size(), 2 + 2);
+        QVERIFY(fading > 0);
     }
 
     void theButtonCannotBePressedTwiceWhileAChangeRuns() {

@@ -20,6 +20,13 @@ Item {
     // From 0 to 1 while it arrives.
     property real presence: 1
     property real strength: root.faded ? 0.35 : 1
+    // The mark it wears, and still while that fades.
+    property string lastMark: "none"
+    Binding on lastMark {
+        when: root.mark !== "none"
+        value: root.mark
+        restoreMode: Binding.RestoreNone
+    }
 
     readonly property bool arriving: root.mark === "arriving"
     readonly property bool leaving: root.mark === "leaving"
@@ -35,7 +42,8 @@ Item {
 
     Rectangle {
         visible: root.spacer
-        x: 7.5
+        // On a whole pixel of the screen.
+        x: Math.floor(7.5 * Screen.devicePixelRatio) / Screen.devicePixelRatio
         y: 11
         width: 1
         height: root.metrics.icon - 16
@@ -98,7 +106,7 @@ Item {
         y: 2
         size: root.metrics.mark
         rim: root.arriving ? Theme.addSoft : root.plate
-        mark: root.mark
+        mark: root.lastMark
         opacity: root.mark === "none" ? 0 : 1
         visible: opacity > 0
         Behavior on opacity {
