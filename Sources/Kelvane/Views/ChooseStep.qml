@@ -35,4 +35,7 @@ Item {
         }
         T.ScrollBar.vertical: ScrollBar {}
     }
+    KeyScroll {
+        area: list
+    }
 }

@@ -6,15 +6,19 @@ import Kelvane
 Rectangle {
     id: root
 
-    readonly property real leftEdge: 193
+    // Beside bars that would become too narrow for their labels the sum stands above them.
+    readonly property real besideSum: 29 + Math.max(164, sum.implicitWidth)
+    readonly property bool stacked: root.width - root.besideSum - 21 < 26 * Theme.small.lineHeight
+    readonly property real leftEdge: root.stacked ? 21 : root.besideSum
     readonly property real chartWidth: root.width - root.leftEdge - 21
     readonly property real gap: bars.count > 10 ? 5 : 14
     readonly property real slot: (root.chartWidth + root.gap) / Math.max(1, bars.count)
     readonly property real highest: 84
-    readonly property real floorY: 117
+    readonly property real topY: root.stacked ? sum.height + 14 : 0
+    readonly property real floorY: root.topY + 19 + Theme.small.lineHeight + root.highest
     property real grown: UsageViewModel.firstShow && !Theme.reducedMotion ? 0 : 1
 
-    implicitHeight: 148
+    implicitHeight: root.floorY + 17 + Theme.small.lineHeight
     radius: 12
     color: Theme.surface
     border.color: Theme.line
@@ -34,9 +38,9 @@ Rectangle {
         easing.type: Easing.OutCubic
     }
     Column {
+        id: sum
         x: 21
-        y: 51
-        width: 164
+        y: root.stacked ? 18 : 51
         Label {
             text: UsageViewModel.total
             type: UsageViewModel.total.length > 9 ? Theme.title : Theme.figureLarge

@@ -8,20 +8,26 @@ Item {
 
     signal deleteRequested
 
-    implicitHeight: Theme.barHeight
+    // Where the buttons do not fit beside each other, the one that deletes stands above the others.
+    readonly property bool narrow: deletion.implicitWidth + buttons.implicitWidth + 62 > root.width
+
+    implicitHeight: Theme.barHeight + (root.narrow ? deletion.height + 8 : 0)
 
     Hairline {
         width: root.width
     }
     DestructiveButton {
+        id: deletion
         x: 18
-        anchors.verticalCenter: parent.verticalCenter
+        y: (Theme.barHeight - height) / 2
         text: "Delete Profile…"
         enabled: !ProfilesViewModel.editor.isOnly
         onClicked: root.deleteRequested()
     }
     Row {
-        anchors { right: parent.right; rightMargin: 28; verticalCenter: parent.verticalCenter }
+        id: buttons
+        anchors { right: parent.right; rightMargin: 28 }
+        y: root.height - (Theme.barHeight + height) / 2
         spacing: 10
 
         SecondaryButton {

@@ -37,6 +37,9 @@ Item {
         }
         T.ScrollBar.vertical: ScrollBar {}
     }
+    KeyScroll {
+        area: list
+    }
     EmptyState {
         visible: HistoryViewModel.isEmpty
         anchors.centerIn: parent

@@ -29,7 +29,7 @@ FocusScope {
     Item {
         id: bar
         width: root.width
-        height: 84
+        height: Theme.firstRunBarHeight
         y: root.height - height
 
         BigButton {

@@ -14,7 +14,7 @@ T.RadioButton {
     required property list<string> icons
     required property bool isChosen
 
-    implicitHeight: 68
+    implicitHeight: Theme.headingBig.lineHeight + Theme.caption.lineHeight + 32
     focusPolicy: Qt.StrongFocus
     checkable: false
     checked: root.isChosen

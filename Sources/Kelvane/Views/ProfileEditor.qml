@@ -19,12 +19,15 @@ Item {
         id: scroll
         objectName: "editor"
         width: root.width
-        height: root.height - Theme.barHeight
+        height: root.height - bar.height
         clip: true
         contentHeight: sections.y + sections.height + 28
         boundsBehavior: Flickable.StopAtBounds
         T.ScrollBar.vertical: ScrollBar {}
 
+        KeyScroll {
+            area: scroll
+        }
         Column {
             id: sections
             x: 28
@@ -70,6 +73,7 @@ Item {
         }
     }
     EditorBar {
+        id: bar
         anchors.bottom: parent.bottom
         width: root.width
         onDeleteRequested: root.askToDelete()

@@ -7,7 +7,8 @@ Card {
     id: root
 
     readonly property alias editing: field.activeFocus
-    readonly property real controlsWidth: root.width - 94
+    readonly property real controlsX: 28 + Math.max(52, nameLabel.implicitWidth, iconLabel.implicitWidth)
+    readonly property real controlsWidth: root.width - root.controlsX - 14
     readonly property int perRow: root.controlsWidth >= 12 * 30 ? 12 : 6
 
     function focusName() {
@@ -17,9 +18,10 @@ Card {
 
     Item {
         width: root.width
-        height: 48
+        height: Math.max(48, field.height + 18)
 
         Label {
+            id: nameLabel
             x: 16
             anchors.verticalCenter: parent.verticalCenter
             text: "Name"
@@ -28,7 +30,7 @@ Card {
         TextEntry {
             id: field
             label: "Name"
-            x: 80
+            x: root.controlsX
             width: root.controlsWidth
             anchors.verticalCenter: parent.verticalCenter
             text: ProfilesViewModel.editor.name
@@ -44,14 +46,15 @@ Card {
         height: icons.height + 18
 
         Label {
+            id: iconLabel
             x: 16
-            y: 15
+            y: icons.y + 15 - height / 2
             text: "Icon"
             Accessible.ignored: true
         }
         Grid {
             id: icons
-            x: 80
+            x: root.controlsX
             y: 9
             columns: root.perRow
             columnSpacing: (root.controlsWidth - columns * 30) / (columns - 1)

@@ -25,7 +25,7 @@ FocusScope {
         ListView {
             id: list
             objectName: "profiles"
-            y: 69
+            y: Theme.paneTop + Theme.title.lineHeight + 15
             width: parent.width
             height: parent.height - y - Theme.barHeight
             clip: true

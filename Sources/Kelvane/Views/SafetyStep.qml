@@ -1,12 +1,23 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import Kelvane
 
 // The Dock is saved; how it is kept in step from now on.
-Item {
+Flickable {
     id: root
 
     readonly property real startY: Math.max(24, Math.min(96, (root.height - 364) / 2))
+
+    contentWidth: width
+    contentHeight: choices.y + choices.height + 24
+    boundsBehavior: Flickable.StopAtBounds
+    clip: contentHeight > height
+    T.ScrollBar.vertical: ScrollBar {}
+
+    KeyScroll {
+        area: root
+    }
 
     StepTitle {
         id: title
@@ -44,6 +55,7 @@ Item {
         }
     }
     Card {
+        id: choices
         anchors.horizontalCenter: parent.horizontalCenter
         y: saved.y + saved.height + 32
         width: 640

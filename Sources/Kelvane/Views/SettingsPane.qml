@@ -14,6 +14,9 @@ Item {
         boundsBehavior: Flickable.StopAtBounds
         T.ScrollBar.vertical: ScrollBar {}
 
+        KeyScroll {
+            area: scroll
+        }
         PaneHeader {
             id: header
             x: Theme.paneMargin

@@ -19,12 +19,16 @@ Item {
     required property int count
     required property bool opened
     readonly property bool first: root.index === 0
+    readonly property real captionY: 14 + Theme.heading.lineHeight
+    readonly property real iconsY: root.captionY + Theme.caption.lineHeight + 9
+    readonly property real namesY: root.iconsY + 34
+    readonly property real closedHeight: root.namesY + Theme.small.lineHeight + 15
     readonly property bool last: root.index === root.count - 1
 
     signal toggled
     signal restoreRequested
 
-    implicitHeight: 120 + (root.opened ? changesBox.height + 8 : 0)
+    implicitHeight: root.closedHeight + (root.opened ? changesBox.height + 8 : 0)
     Accessible.role: Accessible.ListItem
     Accessible.name: root.description
     Accessible.description: root.names
@@ -45,7 +49,7 @@ Item {
         id: inner
         x: Theme.paneMargin + 18
         width: root.width - 2 * Theme.paneMargin - 36
-        height: 120
+        height: root.closedHeight
 
         Row {
             y: 14
@@ -67,7 +71,7 @@ Item {
             }
         }
         Label {
-            y: 32
+            y: root.captionY
             text: root.caption
             type: Theme.caption
             color: Theme.text2
@@ -93,12 +97,12 @@ Item {
         // Icons bring a margin of their own; their edges stand under the text.
         IconStrip {
             x: -2
-            y: 57
+            y: root.iconsY
             width: inner.width - 34
             icons: root.icons
         }
         Label {
-            y: 91
+            y: root.namesY
             width: inner.width - 34
             text: root.names
             type: Theme.small
@@ -109,7 +113,7 @@ Item {
         IconButton {
             anchors.right: parent.right
             anchors.rightMargin: -6
-            y: 80
+            y: root.closedHeight - 40
             symbol: root.opened ? "chevron.up" : "chevron.down"
             symbolSize: 14
             ink: Theme.text3
@@ -122,7 +126,7 @@ Item {
         id: changesBox
         visible: root.opened
         x: inner.x
-        y: 112
+        y: root.closedHeight - 8
         width: inner.width
         text: root.changes
         type: Theme.caption

@@ -11,17 +11,20 @@ Column {
     property TypeStyle type: Theme.leadSmall
 
     spacing: 8
+    leftPadding: 40
+    rightPadding: 40
 
     Label {
-        width: root.width
+        width: root.width - 80
         text: root.title
         type: Theme.display
         horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }
     Label {
-        width: root.width
+        width: root.width - 80
         visible: root.text !== ""
         text: root.text
         type: root.type

@@ -73,4 +73,7 @@ Item {
         }
         T.ScrollBar.vertical: ScrollBar {}
     }
+    KeyScroll {
+        area: list
+    }
 }

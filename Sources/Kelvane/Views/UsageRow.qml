@@ -19,13 +19,14 @@ Item {
     required property bool opened
     readonly property bool first: root.index === 0
     readonly property bool last: root.index === root.count - 1
+    readonly property real rowHeight: Math.max(56, Theme.heading.lineHeight + Theme.caption.lineHeight + 22)
     readonly property real rowWidth: root.width - 2 * Theme.paneMargin
 
     function toggle() {
         UsageViewModel.openedApp = root.opened ? "" : root.bundleID;
     }
 
-    implicitHeight: 56 + (root.first ? 3 : 0) + (root.last ? 3 : 0) + (root.opened ? 24 : 0)
+    implicitHeight: root.rowHeight + (root.first ? 3 : 0) + (root.last ? 3 : 0) + (root.opened ? Theme.caption.lineHeight + 8 : 0)
     Accessible.role: Accessible.ListItem
     Accessible.name: root.name
     Accessible.description: root.description
@@ -44,7 +45,7 @@ Item {
         x: Theme.paneMargin
         y: root.first ? 3 : 0
         width: root.rowWidth
-        height: 56
+        height: root.rowHeight
 
         Label {
             width: 32
@@ -59,13 +60,13 @@ Item {
             x: 48
             y: 4
             width: Math.max(6, (row.width - 58) * root.share)
-            height: 48
+            height: row.height - 8
             radius: Math.min(10, width / 2)
             color: Theme.accentBar
         }
         AppIcon {
             x: 58
-            y: 8
+            anchors.verticalCenter: parent.verticalCenter
             size: 40
             bundleID: root.bundleID
             name: root.name
@@ -102,7 +103,7 @@ Item {
     Label {
         visible: root.opened
         x: row.x + 108
-        y: row.y + 55
+        y: row.y + row.height - 1
         width: row.width - 120
         text: root.reason
         type: Theme.caption

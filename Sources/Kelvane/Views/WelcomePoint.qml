@@ -28,6 +28,7 @@ Item {
             width: parent.width
             text: root.title
             type: Theme.headingBig
+            wrapMode: Text.Wrap
         }
         Label {
             width: parent.width

@@ -1,13 +1,24 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import QtQuick.Window
 import Kelvane
 
 // What this application is for, in four points.
-Item {
+Flickable {
     id: root
 
     readonly property real startY: Math.max(24, Math.min(84, (root.height - 388) / 2))
+
+    contentWidth: width
+    contentHeight: points.y + points.height + 24
+    boundsBehavior: Flickable.StopAtBounds
+    clip: contentHeight > height
+    T.ScrollBar.vertical: ScrollBar {}
+
+    KeyScroll {
+        area: root
+    }
 
     Image {
         id: mark
@@ -29,6 +40,7 @@ Item {
         type: Theme.lead
     }
     Grid {
+        id: points
         anchors.horizontalCenter: parent.horizontalCenter
         y: title.y + title.height + 52
         columns: 2

@@ -15,7 +15,11 @@ Item {
     width: parent ? parent.width : implicitWidth
     // Beside more than two lines the control stands at the first.
     readonly property bool tall: note.lineCount > 1
-    implicitHeight: Math.max(root.minimumHeight, words.implicitHeight + (root.tall ? 30 : 20), slot.implicitHeight + 16)
+    readonly property real room: root.width - slot.width - 54
+    // Where the label would have to break its words, the control stands below it.
+    readonly property bool stacked: root.room < Math.min(title.implicitWidth, 160)
+    implicitHeight: root.stacked ? words.implicitHeight + slot.implicitHeight + 32
+                    : Math.max(root.minimumHeight, words.implicitHeight + (root.tall ? 30 : 20), slot.implicitHeight + 16)
 
     Hairline {
         visible: root.divided
@@ -25,11 +29,12 @@ Item {
     Column {
         id: words
         x: 16
-        width: Math.min(420, root.width - slot.width - 54)
-        y: root.tall ? 16 : (root.height - height) / 2
+        width: root.stacked ? root.width - 32 : Math.min(420, root.room)
+        y: root.stacked ? 12 : root.tall ? 16 : (root.height - height) / 2
         spacing: root.tall ? 4 : 0
 
         Label {
+            id: title
             width: parent.width
             text: root.label
             wrapMode: Text.Wrap
@@ -48,7 +53,7 @@ Item {
         id: slot
         anchors.right: parent.right
         anchors.rightMargin: 14
-        y: root.tall ? 12 : (root.height - height) / 2
+        y: root.stacked ? root.height - height - 12 : root.tall ? 12 : (root.height - height) / 2
         spacing: 10
     }
 }

@@ -3,8 +3,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Kelvane
 
-// The scrolling part of a pane; what is put into it stands one below the other between the pane's margins. Keyboard focus
-// inside is brought into sight.
+// The scrolling part of a pane; what is put into it stands one below the other between the pane's margins.
 Flickable {
     id: root
 
@@ -17,20 +16,15 @@ Flickable {
     boundsBehavior: Flickable.StopAtBounds
     clip: contentHeight > height
 
-    function reveal(item: Item) {
-        const top = item.mapToItem(root.contentItem, 0, 0).y;
-        if (top - 12 < root.contentY)
-            root.contentY = Math.max(0, top - 12);
-        else if (top + item.height + 12 > root.contentY + root.height)
-            root.contentY = Math.min(root.contentHeight - root.height, top + item.height + 12 - root.height);
-    }
-
     Column {
         id: column
         x: root.margin
         y: Theme.paneTop
         width: root.width - 2 * root.margin
         spacing: root.spacing
+    }
+    KeyScroll {
+        area: root
     }
     T.ScrollBar.vertical: ScrollBar {}
 }
