@@ -13,6 +13,19 @@ using namespace Kelvane;
 using namespace Fakes;
 using namespace Qt::StringLiterals;
 
+namespace {
+QList<QQuickItem*> tilesIn(const QQuickItem& item) {
+    QList<QQuickItem*> tiles;
+    for (QQuickItem* child : item.childItems()) {
+        if (QByteArrayView(child->metaObject()->className()).startsWith("TileView"))
+            tiles.append(child);
+        else
+            tiles += tilesIn(*child);
+    }
+    return tiles;
+}
+} // namespace
+
 /// The window and the Dock pane, on a model with fakes, as a person uses them.
 class DockPaneTest : public QObject {
     Q_OBJECT
@@ -47,14 +60,7 @@ private Q_SLOTS:
         WindowWorld mac;
         pinActive(*mac.model, {u"Mail"_s, u"Terminal"_s});
         mac.open(Pane::dock);
-        const auto tiles = [&mac] {
-            QList<QQuickItem*> tiles;
-            for (QQuickItem* item : mac.quick()->findChildren<QQuickItem*>()) {
-                if (item->isVisible() && QByteArrayView(item->metaObject()->className()).startsWith("TileView"))
-                    tiles.append(item);
-            }
-            return tiles;
-        };
+        const auto tiles = [&mac] { return tilesIn(*mac.quick()->contentItem()); };
         QCOMPARE(tiles().size(), 8 + 2);
         int fading = 0;
         connect(mac.quick(), &QQuickWindow::afterAnimating, this, [&] {
