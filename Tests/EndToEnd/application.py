@@ -5,7 +5,7 @@ import socket
 import subprocess
 import unittest
 
-from desktop import Desktop, until
+from desktop import Desktop, Menu, until
 from window import Window
 from world import BINARIES, World
 
@@ -56,6 +56,9 @@ class ApplicationTest(unittest.TestCase):
         self.addCleanup(window.close)
         window.take_keys()
         return window
+
+    def menu(self):
+        return Menu(self.desktop, self.application.pid)
 
     def quit(self):
         self.application.terminate()

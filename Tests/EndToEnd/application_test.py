@@ -10,13 +10,13 @@ import time
 import unittest
 
 from application import ApplicationTest
-from desktop import Menu, until
+from desktop import until
 
 
 class StatusMenu(ApplicationTest):
     def test_labels_order_checks_and_keys(self):
         self.launch()
-        menu = Menu(self.desktop)
+        menu = self.menu()
         profiles = [profile["name"] for profile in self.world.json("profiles.json")]
         self.assertEqual(menu.labels(), ["Profile", *profiles, "-", "Reorganize Dock Now", "Restore Previous Dock", "-",
                                          "Track App Usage", "Open Kelvane…", "-", "Quit Kelvane"])
@@ -31,7 +31,7 @@ class StatusMenu(ApplicationTest):
 
     def test_each_command_does_its_work(self):
         self.launch()
-        menu = Menu(self.desktop)
+        menu = self.menu()
         before = self.world.dock()
         menu.click("Reorganize Dock Now")
         until(lambda: self.world.dock() != before)
@@ -62,7 +62,7 @@ class StatusMenu(ApplicationTest):
 class Life(ApplicationTest):
     def test_no_window_after_the_first_run(self):
         self.launch()
-        Menu(self.desktop).labels()
+        self.menu().labels()
         self.assertEqual(self.windows(), [])
 
     def test_show_opens_the_window_and_closing_keeps_the_process(self):
@@ -72,7 +72,7 @@ class Life(ApplicationTest):
         self.desktop.key("ctrl+w")
         until(lambda: not self.windows())
         self.assertIsNone(self.application.poll())
-        Menu(self.desktop).click("Open Kelvane…")
+        self.menu().click("Open Kelvane…")
         until(self.windows)
 
     def test_a_second_start_shows_the_window_of_the_first(self):
@@ -111,7 +111,7 @@ class Life(ApplicationTest):
 class CommandLineBeside(ApplicationTest):
     def test_a_command_is_carried_out_by_the_application(self):
         self.launch()
-        menu = Menu(self.desktop)
+        menu = self.menu()
         self.world.ask("track", "off")
         self.assertEqual(menu.item("Track App Usage")["toggle-state"], 0)
         self.assertEqual(self.world.run("apply", "Nobody")[0], 2)

@@ -9,6 +9,9 @@ import sys
 import tempfile
 import time
 
+import dbus
+import dbus.bus
+
 HERE = pathlib.Path(__file__).resolve().parent
 
 
@@ -98,25 +101,35 @@ class Desktop:
         shutil.rmtree(self.runtime, ignore_errors=True)
 
 
-class Menu:
-    """The menu of the one status item, as a panel reads it."""
+def process(bus, service):
+    """Who speaks under that name; nothing when nobody does any more."""
+    try:
+        return int(bus.call_blocking(dbus.BUS_DAEMON_NAME, dbus.BUS_DAEMON_PATH, dbus.BUS_DAEMON_IFACE,
+                                     "GetConnectionUnixProcessID", "s", (service,)))
+    except dbus.DBusException:
+        return None
 
-    def __init__(self, desktop):
-        import dbus
-        self.dbus = dbus
+
+class Menu:
+    """The menu of a process's status item, as a panel reads it."""
+
+    def __init__(self, desktop, pid):
         self.bus = dbus.bus.BusConnection(desktop.address)
         watcher = self.bus.get_object("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher")
-        items = until(lambda: watcher.Get("org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems",
-                                          dbus_interface=dbus.PROPERTIES_IFACE))
-        self.service = items[-1]
-        item = self.bus.get_object(self.service, "/StatusNotifierItem")
+
+        def services():
+            items = watcher.Get("org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems",
+                                dbus_interface=dbus.PROPERTIES_IFACE)
+            return [service for service in items if process(self.bus, service) == pid]
+        service = until(services)[0]
+        item = self.bus.get_object(service, "/StatusNotifierItem")
         self.properties = item.GetAll("org.kde.StatusNotifierItem", dbus_interface=dbus.PROPERTIES_IFACE)
-        self.menu = dbus.Interface(self.bus.get_object(self.service, self.properties["Menu"]), "com.canonical.dbusmenu")
+        self.menu = dbus.Interface(self.bus.get_object(service, self.properties["Menu"]), "com.canonical.dbusmenu")
 
     def items(self):
         """The items as they stand when the menu opens: dictionaries of their properties, with "id"."""
-        self.menu.AboutToShow(self.dbus.Int32(0))
-        _, (_, _, children) = self.menu.GetLayout(self.dbus.Int32(0), self.dbus.Int32(-1), self.dbus.Array([], signature="s"))
+        self.menu.AboutToShow(dbus.Int32(0))
+        _, (_, _, children) = self.menu.GetLayout(dbus.Int32(0), dbus.Int32(-1), dbus.Array([], signature="s"))
         return [{**{str(key): value for key, value in properties.items()}, "id": int(identifier)}
                 for identifier, properties, _ in children]
 
@@ -127,5 +140,5 @@ class Menu:
         return next(item for item in self.items() if item.get("label") == label)
 
     def click(self, label):
-        self.menu.Event(self.dbus.Int32(self.item(label)["id"]), "clicked", self.dbus.String("", variant_level=1),
-                        self.dbus.UInt32(0))
+        self.menu.Event(dbus.Int32(self.item(label)["id"]), "clicked", dbus.String("", variant_level=1),
+                        dbus.UInt32(0))

@@ -5,7 +5,7 @@ import time
 import unittest
 
 from application import ApplicationTest
-from desktop import Menu, until
+from desktop import until
 
 
 class DockPane(ApplicationTest):
@@ -48,7 +48,7 @@ class DockPane(ApplicationTest):
         window.click("Apply to Dock")
         until(lambda: self.world.dock() == plan)
         window.find("Matches your Dock")
-        Menu(self.desktop).click("Restore Previous Dock")
+        self.menu().click("Restore Previous Dock")
         until(lambda: self.world.dock() == before)
         window.find("Dock restored to “Before Work”.", "alert message")
         window.click("Resume")
@@ -91,7 +91,7 @@ class DockPane(ApplicationTest):
         window.keys("ctrl+w")
         until(lambda: not self.windows())
         self.use("Chess")
-        Menu(self.desktop).click("Open Kelvane…")
+        self.menu().click("Open Kelvane…")
         window.take_keys()
         self.assertIn("selected", window.find("Usage", "page tab").states)
         self.assertEqual(self.saved_switches("Chess"), before)

@@ -3,7 +3,7 @@
 import dbus
 import dbus.bus
 
-from desktop import until
+from desktop import process, until
 
 ACCESSIBLE, COMPONENT = "org.a11y.atspi.Accessible", "org.a11y.atspi.Component"
 # Where the states are in the two words that tell them.
@@ -83,13 +83,9 @@ class Window:
 
     # Looking
 
-    def process(self, service):
-        return self.bus.call_blocking("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-                                      "GetConnectionUnixProcessID", "s", (service,))
-
     def roots(self):
         registry = Control(self.bus, "org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
-        return [child for child in registry.children if self.process(child.reference[0]) == self.pid]
+        return [child for child in registry.children if process(self.bus, child.reference[0]) == self.pid]
 
     def all(self, name=None, role=None, about=None):
         """Everything that shows and has these, in reading order; `about` is the description."""
