@@ -36,6 +36,24 @@ constexpr auto answerPatience = 5s;
 constexpr auto turnPatience = 60s;
 constexpr auto turnPause = 20ms;
 
+constexpr auto help = R"(Keeps the Dock in step with how you work.
+
+Usage: kelvane [OPTION]
+
+  --show       open the window; without it only the item in the menu bar shows, but for the first run
+  --selftest   ask this computer for everything Kelvane needs of it, and print a table
+  --uninstall  no longer open at login, and say what stays where
+  --help       this text
+  --version    the version
+
+A second start asks the running application to show its window. `kelvanectl` is the command line.
+
+Environment
+  KELVANE_DRY_RUN  a property-list file that stands in for the Dock
+  KELVANE_HOME     the folder for Kelvane's own files
+  KELVANE_SHOTS    a folder to draw every screen into; the application ends afterwards
+)";
+
 enum class Turn { ours, shownByOther, impossible };
 
 /// Becomes the one application of the support folder, or asks the one that runs to show its window.
@@ -65,6 +83,10 @@ int main(int argc, char** argv) {
     const QStringList arguments = QApplication::arguments();
     if (arguments.contains(u"--version")) {
         std::printf("Kelvane %s\n", KELVANE_VERSION);
+        return 0;
+    }
+    if (arguments.contains(u"--help")) {
+        std::fputs(help, stdout);
         return 0;
     }
     if (arguments.contains(u"--selftest"))
