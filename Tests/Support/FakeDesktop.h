@@ -11,7 +11,6 @@ class Desktop : public Kelvane::Desktop {
 public:
     void setActivationPolicy(ActivationPolicy policy) override { policies.append(policy); }
     void setAppearance(Appearance wanted) override { appearance = wanted; }
-    bool makesApplicationMenu() const override { return false; }
     void prepareMainWindow(QWindow&) override {}
     std::optional<QImage> applicationIcon(const QString&, int) override { return std::nullopt; }
     std::optional<QIcon> symbol(const QString&, const QString&) override { return std::nullopt; }

@@ -22,9 +22,6 @@ public:
     virtual void setActivationPolicy(ActivationPolicy policy) = 0;
     /// Forces an appearance on the whole application, or follows the system's again.
     virtual void setAppearance(Appearance appearance) = 0;
-    /// Whether the system makes the application menu, with hiding in it, and takes About and Quit into it by their
-    /// roles.
-    virtual bool makesApplicationMenu() const = 0;
     /// Gives a native window the look of a main window here, and its remembered frame.
     virtual void prepareMainWindow(QWindow& window) = 0;
     /// The icon of the bundle at `path`, `size` pixels wide; nothing when it has none. Any thread may ask.

@@ -51,8 +51,10 @@ void AppDelegate::makeStatusItem() {
 }
 
 void AppDelegate::makeMainMenu() {
-    m_mainMenu = std::make_unique<MainMenu>(m_desktop.makesApplicationMenu() ? MainMenu::ApplicationMenu::systems
-                                                                             : MainMenu::ApplicationMenu::ours);
+    // There the system makes the application menu, and Qt takes what bears a role into it.
+    const bool isCocoa = QGuiApplication::platformName() == u"cocoa";
+    m_mainMenu =
+        std::make_unique<MainMenu>(isCocoa ? MainMenu::ApplicationMenu::systems : MainMenu::ApplicationMenu::ours);
     connect(m_mainMenu.get(), &MainMenu::quitRequested, qApp, &QCoreApplication::quit);
     connect(m_mainMenu.get(), &MainMenu::aboutRequested, this, &AppDelegate::showAbout);
     // Where the system does not hide applications, one without a window is as hidden as can be.

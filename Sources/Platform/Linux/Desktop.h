@@ -14,7 +14,6 @@ public:
     /// There is nothing to do: a program without a window is not listed here, and one with a window is.
     void setActivationPolicy(ActivationPolicy policy) override;
     void setAppearance(Appearance appearance) override;
-    bool makesApplicationMenu() const override { return false; }
     /// There is nothing to do: the frame is the window manager's.
     void prepareMainWindow(QWindow& window) override;
     std::optional<QImage> applicationIcon(const QString& path, int size) override;

@@ -10,7 +10,6 @@ public:
     /// `regular` also brings the application to the front: one that just became regular is behind all others.
     void setActivationPolicy(ActivationPolicy policy) override;
     void setAppearance(Appearance appearance) override;
-    bool makesApplicationMenu() const override { return true; }
     void prepareMainWindow(QWindow& window) override;
     std::optional<QImage> applicationIcon(const QString& path, int size) override;
     /// As large as a symbol in the menu bar, for plain and for dense screens.
