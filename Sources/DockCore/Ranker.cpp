@@ -32,7 +32,8 @@ QList<AppInfo> candidates(const QHash<QString, UsageTotals>& totals, AppCatalog&
     }
     if (weight > 0) {
         // What was never tracked can still have been opened.
-        for (const AppInfo& app : catalog.installedApps()) {
+        const QList<AppInfo> installed = catalog.installedApps();
+        for (const AppInfo& app : installed) {
             if (!found.contains(app.bundleID))
                 found.insert(app.bundleID, app);
         }

@@ -125,7 +125,8 @@ Snapshot SnapshotStore::capture(const QString& reason, Mark mark) {
 
 std::optional<Snapshot> SnapshotStore::previous(const QList<DockTile>& current) const {
     const QStringList signature = layoutSignature(current);
-    for (const Snapshot& snapshot : all()) {
+    const QList<Snapshot> snapshots = all();
+    for (const Snapshot& snapshot : snapshots) {
         if (snapshot.signature != signature)
             return snapshot;
     }
@@ -195,7 +196,8 @@ void SnapshotStore::leave(const QString& id) {
 /// Writes the list and then removes the files that it no longer names; `m_changing` is held.
 void SnapshotStore::saveIndex() {
     QJsonArray records;
-    for (const Snapshot& snapshot : all())
+    const QList<Snapshot> snapshots = all();
+    for (const Snapshot& snapshot : snapshots)
         records.append(snapshot.toJson());
     JSONFile::save(records, m_folder + u"/index.json"_s);
     for (const QString& id : std::exchange(m_leaving, {}))
