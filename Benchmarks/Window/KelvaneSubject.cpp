@@ -17,8 +17,8 @@ namespace {
 
 constexpr int rounds = 3;
 constexpr int savedDocks = 12;
-constexpr int pinned = 40;
-constexpr int usageSlots = 20;
+constexpr int pinned = 20;
+constexpr int usageSlots = 40;
 
 class KelvaneSubject : public Subject {
 public:

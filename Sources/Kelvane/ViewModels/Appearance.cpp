@@ -6,13 +6,16 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <QPointer>
+#include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 
 namespace Kelvane {
 
 Appearance::Appearance(QObject* parent)
-    : QObject(parent) {
+    : QObject(parent)
+    , m_pixelRatio(qGuiApp->devicePixelRatio()) {
     qGuiApp->installEventFilter(this);
 }
 
@@ -33,18 +36,42 @@ QString Appearance::family() const {
 }
 
 qreal Appearance::textScale() const {
-    return std::max(1.0, QFontInfo(QGuiApplication::font()).pixelSize() / static_cast<qreal>(bodySize));
+    if (!m_textScale)
+        m_textScale = std::max(1.0, QFontInfo(QGuiApplication::font()).pixelSize() / static_cast<qreal>(bodySize));
+    return *m_textScale;
 }
 
 bool Appearance::reducedMotion() const {
     return qGuiApp->property("reducedMotion").toBool();
 }
 
+void Appearance::follow(QWindow& window) {
+    const auto enter = [this](const QScreen* screen) {
+        disconnect(m_screen);
+        if (screen == nullptr)
+            return;
+        setPixelRatio(screen->devicePixelRatio());
+        m_screen = connect(screen, &QScreen::physicalDotsPerInchChanged, this,
+                           [this, screen] { setPixelRatio(screen->devicePixelRatio()); });
+    };
+    connect(&window, &QWindow::screenChanged, this, enter);
+    enter(window.screen());
+}
+
+void Appearance::setPixelRatio(qreal pixelRatio) {
+    if (qFuzzyCompare(pixelRatio, m_pixelRatio))
+        return;
+    m_pixelRatio = pixelRatio;
+    Q_EMIT pixelRatioChanged();
+}
+
 bool Appearance::eventFilter(QObject* watched, QEvent* event) {
     if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
         Q_EMIT darkChanged();
-    if (watched == qGuiApp && event->type() == QEvent::ApplicationFontChange)
+    if (watched == qGuiApp && event->type() == QEvent::ApplicationFontChange) {
+        m_textScale.reset();
         Q_EMIT fontChanged();
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -3,6 +3,10 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
+class QWindow;
+
 namespace Kelvane {
 
 /// What the desktop asks of every colour and every text, read from the application's palette and font, which the
@@ -14,6 +18,8 @@ class Appearance : public QObject {
     /// How much larger than usual the user wants text, from 1.
     Q_PROPERTY(qreal textScale READ textScale NOTIFY fontChanged)
     Q_PROPERTY(bool reducedMotion READ reducedMotion CONSTANT)
+    /// Pixels a point where the window is, for images.
+    Q_PROPERTY(qreal pixelRatio READ pixelRatio NOTIFY pixelRatioChanged)
 
 public:
     /// The one of the application object, which owns it.
@@ -23,6 +29,9 @@ public:
     QString family() const;
     qreal textScale() const;
     bool reducedMotion() const;
+    qreal pixelRatio() const { return m_pixelRatio; }
+    /// Follows the window from screen to screen.
+    void follow(QWindow& window);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -32,9 +41,17 @@ public:
 Q_SIGNALS:
     void darkChanged();
     void fontChanged();
+    void pixelRatioChanged();
 
 private:
     explicit Appearance(QObject* parent);
+    void setPixelRatio(qreal pixelRatio);
+
+    /// Finding the font that is drawn with takes long, and every text asks.
+    mutable std::optional<qreal> m_textScale;
+    qreal m_pixelRatio;
+    /// To the screen that the window is on.
+    QMetaObject::Connection m_screen;
 };
 
 } // namespace Kelvane

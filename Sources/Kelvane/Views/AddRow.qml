@@ -31,12 +31,11 @@ T.AbstractButton {
         size: 14
         tint: Theme.accentText
     }
-    Label {
+    Words {
         x: 36
         anchors.verticalCenter: parent.verticalCenter
         text: root.text
         type: Theme.button
         color: Theme.accentText
-        Accessible.ignored: true
     }
 }

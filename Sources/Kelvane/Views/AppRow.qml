@@ -54,13 +54,11 @@ Item {
         }
     }
 
-    Rectangle {
+    Loader {
         anchors.fill: parent
         anchors.margins: 1
-        radius: 8
-        visible: root.dragged
-        color: Theme.raised
-        border.color: Theme.lineStrong
+        active: root.dragged
+        source: "DraggedPlate.qml"
     }
     MouseArea {
         id: area
@@ -92,20 +90,19 @@ Item {
         name: root.name
         dimmed: !root.isInstalled
     }
-    Label {
+    Words {
         x: 50
-        width: (tag.visible ? tag.x : buttons.x) - x - 8
+        width: (tag.active ? tag.x : buttons.x) - x - 8
         anchors.verticalCenter: parent.verticalCenter
         text: root.name
         color: root.isInstalled ? Theme.text : Theme.text2
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
-    Tag {
+    Loader {
         id: tag
-        visible: !root.isInstalled
+        active: !root.isInstalled
         anchors { right: buttons.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
-        text: "not installed"
+        source: "NotInstalledTag.qml"
     }
     AppRowButtons {
         id: buttons

@@ -31,28 +31,26 @@ Item {
         radius: Math.min(5, height / 2, width / 2)
         color: !root.isTracked ? Theme.line : root.isToday ? Theme.accent : Theme.accentMute
     }
-    Label {
+    Words {
         anchors { horizontalCenter: bar.horizontalCenter; bottom: bar.top; bottomMargin: 3 }
         visible: root.peak !== ""
         text: root.peak
         type: Theme.small
         color: Theme.text2
-        Accessible.ignored: true
     }
-    Label {
+    Words {
         x: !root.labelsFill ? (root.width - width) / 2 : root.first ? 0 : root.isToday ? root.width - width
                                                                             : (root.width - width) / 2
         y: root.highest + 6
         text: root.label
         type: root.isToday ? Theme.smallStrong : Theme.small
         color: root.isToday ? Theme.text : Theme.text2
-        Accessible.ignored: true
     }
     HoverHandler {
         id: pointer
     }
-    ToolTip {
+    Hint {
         text: root.description
-        visible: pointer.hovered
+        shown: pointer.hovered
     }
 }

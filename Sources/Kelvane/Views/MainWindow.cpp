@@ -2,6 +2,8 @@
 
 #include "Kelvane/AppModel.h"
 #include "Kelvane/Ports/Desktop.h"
+#include "Kelvane/ViewModels/Appearance.h"
+#include "Kelvane/Views/DiscProvider.h"
 #include "Kelvane/Views/IconProvider.h"
 #include "Kelvane/Views/ShadowProvider.h"
 #include "Kelvane/Views/SymbolProvider.h"
@@ -98,6 +100,7 @@ void MainWindow::make() {
     m_engine = std::make_unique<QQmlApplicationEngine>();
     // The engine owns them and goes first.
     m_engine->addImageProvider(u"symbol"_s, new SymbolProvider(m_desktop));
+    m_engine->addImageProvider(u"disc"_s, new DiscProvider);
     m_engine->addImageProvider(u"icon"_s, new IconProvider(m_desktop));
     m_engine->addImageProvider(u"shadow"_s, new ShadowProvider);
     m_engine->addImportPath(u":/qt/qml"_s);
@@ -108,6 +111,7 @@ void MainWindow::make() {
     if (!m_window)
         return;
     m_window->installEventFilter(this);
+    Appearance::shared().follow(*m_window);
     connect(m_window, &QWindow::activeChanged, this, [this] {
         if (m_window->isActive())
             Q_EMIT becameKey();

@@ -41,13 +41,12 @@ T.ItemDelegate {
             bundleID: root.bundleID
             name: root.name
         }
-        Label {
+        Words {
             x: 52
             width: root.width - x - 52
             anchors.verticalCenter: parent.verticalCenter
             text: root.name
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
     }
     IconButton {

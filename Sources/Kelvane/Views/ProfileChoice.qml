@@ -53,20 +53,18 @@ T.RadioButton {
         x: 69
         width: strip.x - x - 16
         anchors.verticalCenter: parent.verticalCenter
-        Label {
+        Words {
             width: parent.width
             text: root.name
             type: Theme.headingBig
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
-        Label {
+        Words {
             width: parent.width
             text: root.line
             type: Theme.caption
             color: Theme.text2
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
     }
     IconStrip {

@@ -67,8 +67,11 @@ Item {
                 }
                 onRemoveRequested: row => ProfilesViewModel.editor.removeExcluded(row)
             }
-            PreviewSection {
+            // It may have many tiles, and it lies below what is seen first.
+            Loader {
                 width: parent.width
+                asynchronous: true
+                source: "PreviewSection.qml"
             }
         }
     }

@@ -20,12 +20,11 @@ Card {
         width: root.width
         height: Math.max(48, field.height + 18)
 
-        Label {
+        Words {
             id: nameLabel
             x: 16
             anchors.verticalCenter: parent.verticalCenter
             text: "Name"
-            Accessible.ignored: true
         }
         TextEntry {
             id: field
@@ -45,12 +44,11 @@ Card {
         width: root.width
         height: icons.height + 18
 
-        Label {
+        Words {
             id: iconLabel
             x: 16
             y: icons.y + 15 - height / 2
             text: "Icon"
-            Accessible.ignored: true
         }
         Grid {
             id: icons

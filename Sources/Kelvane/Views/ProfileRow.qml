@@ -39,7 +39,7 @@ T.ItemDelegate {
         size: 18
         tint: root.selected ? Theme.accentText : Theme.text2
     }
-    Label {
+    Words {
         id: label
         x: 38
         width: Math.min(implicitWidth, (tag.visible ? tag.x - 8 : root.width - 10) - x - ordinalLabel.width)
@@ -47,9 +47,8 @@ T.ItemDelegate {
         text: root.name
         type: root.selected ? Theme.heading : Theme.body
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
-    Label {
+    Words {
         id: ordinalLabel
         visible: root.ordinal !== ""
         width: visible ? implicitWidth + 6 : 0
@@ -57,7 +56,6 @@ T.ItemDelegate {
         anchors.verticalCenter: parent.verticalCenter
         text: root.ordinal
         color: Theme.text2
-        Accessible.ignored: true
     }
     Tag {
         id: tag

@@ -101,14 +101,13 @@ Item {
             width: inner.width - 34
             icons: root.icons
         }
-        Label {
+        Words {
             y: root.namesY
             width: inner.width - 34
             text: root.names
             type: Theme.small
             color: Theme.text2
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
         IconButton {
             anchors.right: parent.right

@@ -8,6 +8,7 @@ QtObject {
 
     readonly property bool dark: Appearance.dark
     readonly property bool reducedMotion: Appearance.reducedMotion
+    readonly property real pixelRatio: Appearance.pixelRatio
 
     readonly property color window: dark ? "#1B1B1F" : "#F8F8FA"
     readonly property color sidebar: dark ? "#222227" : "#EFEFF3"

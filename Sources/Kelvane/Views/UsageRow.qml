@@ -47,14 +47,13 @@ Item {
         width: root.rowWidth
         height: root.rowHeight
 
-        Label {
+        Words {
             width: 32
             anchors.verticalCenter: parent.verticalCenter
             horizontalAlignment: Text.AlignRight
             text: root.rank
             type: Theme.caption
             color: Theme.text2
-            Accessible.ignored: true
         }
         Rectangle {
             x: 48
@@ -75,20 +74,18 @@ Item {
             x: 108
             width: row.width - x - 44
             anchors.verticalCenter: parent.verticalCenter
-            Label {
+            Words {
                 width: parent.width
                 text: root.name
                 type: Theme.heading
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
-            Label {
+            Words {
                 width: parent.width
                 text: root.detail
                 type: Theme.caption
                 color: Theme.text2
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
         }
         Symbol {
@@ -100,7 +97,7 @@ Item {
             tint: Theme.text3
         }
     }
-    Label {
+    Words {
         visible: root.opened
         x: row.x + 108
         y: row.y + row.height - 1
@@ -109,7 +106,6 @@ Item {
         type: Theme.caption
         color: Theme.text2
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
     FocusRing {
         shown: root.focused

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Kelvane
 
 // What this application is for, in four points.
@@ -26,8 +25,8 @@ Flickable {
         y: root.startY
         width: 88
         height: 88
-        sourceSize.width: 88 * Screen.devicePixelRatio
-        sourceSize.height: 88 * Screen.devicePixelRatio
+        sourceSize.width: 88 * Theme.pixelRatio
+        sourceSize.height: 88 * Theme.pixelRatio
         source: "image://symbol/kelvane-mark/regular/none"
         Accessible.ignored: true
     }

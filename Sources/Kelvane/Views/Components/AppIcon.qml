@@ -1,6 +1,5 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Window
 import Kelvane
 
 // The icon of an application, by its identifier or by a source that a view model made.
@@ -14,10 +13,9 @@ Image {
 
     width: root.size
     height: root.size
-    sourceSize.width: root.size * Screen.devicePixelRatio
-    sourceSize.height: root.size * Screen.devicePixelRatio
+    sourceSize.width: root.size * Theme.pixelRatio
+    sourceSize.height: root.size * Theme.pixelRatio
     source: App.iconSource(root.bundleID, root.name)
     asynchronous: true
     opacity: root.dimmed ? 0.4 : 1
-    Accessible.ignored: true
 }

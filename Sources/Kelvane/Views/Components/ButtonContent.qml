@@ -18,22 +18,14 @@ Item {
     implicitWidth: label.implicitWidth + root.symbolSpace
     implicitHeight: label.implicitHeight
 
-    Symbol {
-        visible: root.symbol !== ""
-        name: root.symbol
-        size: root.symbolSize
-        tint: root.ink
+    // Few buttons have one.
+    Loader {
         x: label.x - root.symbolSpace
         anchors.verticalCenter: parent.verticalCenter
-        RotationAnimator on rotation {
-            running: root.turning && root.visible && !Theme.reducedMotion
-            loops: Animation.Infinite
-            from: 0
-            to: 360
-            duration: 900
-        }
+        active: root.symbol !== ""
+        source: "ButtonSymbol.qml"
     }
-    Label {
+    Words {
         id: label
         width: Math.min(implicitWidth, root.width - root.symbolSpace)
         x: Math.round((root.width - width + root.symbolSpace) / 2)
@@ -42,6 +34,5 @@ Item {
         type: root.type
         color: root.ink
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
 }

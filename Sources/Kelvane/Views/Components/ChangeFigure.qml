@@ -34,29 +34,27 @@ Item {
         mark: root.mark
         idle: root.count === 0
     }
-    Label {
+    Words {
         id: figure
         x: 25
         anchors.verticalCenter: parent.verticalCenter
         text: Math.round(root.shownCount)
         type: root.count === 0 ? Theme.figureZero : Theme.figure
         color: root.count === 0 ? Theme.text3 : Theme.text
-        Accessible.ignored: true
     }
-    Label {
+    Words {
         id: words
         x: figure.x + figure.width + 7
         anchors.verticalCenter: parent.verticalCenter
         visible: !root.terse
         text: root.label
         color: Theme.text2
-        Accessible.ignored: true
     }
     HoverHandler {
         id: hover
     }
-    ToolTip {
+    Hint {
         text: root.label
-        visible: root.terse && hover.hovered
+        shown: root.terse && hover.hovered
     }
 }

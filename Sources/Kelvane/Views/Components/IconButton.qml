@@ -26,16 +26,14 @@ T.Button {
         color: root.down ? Theme.selected : root.hovered ? Theme.hover : Theme.clear
         FocusRing { shown: root.visualFocus; controlRadius: 7 }
     }
-    contentItem: Item {
-        Symbol {
-            anchors.centerIn: parent
-            name: root.symbol
-            size: root.symbolSize
-            tint: root.ink
-        }
+    Symbol {
+        anchors.centerIn: parent
+        name: root.symbol
+        size: root.symbolSize
+        tint: root.ink
     }
-    ToolTip {
+    Hint {
         text: root.text
-        visible: root.hovered && root.text !== ""
+        shown: root.hovered
     }
 }

@@ -20,12 +20,11 @@ Item {
     Row {
         spacing: root.gap
         Repeater {
-            model: root.shown
+            model: root.icons.slice(0, root.shown)
             AppIcon {
-                required property int index
-                readonly property string address: root.icons[index] ?? ""
+                required property string modelData
                 size: root.size
-                source: address
+                source: modelData
             }
         }
         Label {

@@ -2,18 +2,10 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kelvane
 
-// Text in one of the theme's styles. It wraps or elides only where it is told to.
-Text {
+// Words that a screen reader reads out.
+Words {
     id: root
 
-    property TypeStyle type: Theme.body
-
-    color: Theme.text
-    font: root.type.font
-    lineHeight: root.type.lineHeight
-    lineHeightMode: Text.FixedHeight
-    textFormat: Text.PlainText
-    verticalAlignment: Text.AlignVCenter
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text
 }

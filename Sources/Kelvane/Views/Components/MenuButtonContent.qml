@@ -20,7 +20,7 @@ Item {
         visible: root.symbol !== ""
         name: root.symbol
     }
-    Label {
+    Words {
         id: label
         x: root.textStart
         width: Math.min(implicitWidth, root.width - root.textStart - 24)
@@ -29,7 +29,6 @@ Item {
         type: root.type
         color: root.ink
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
     Symbol {
         anchors.right: parent.right

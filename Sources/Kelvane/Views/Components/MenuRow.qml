@@ -42,7 +42,7 @@ T.MenuItem {
         name: root.symbol
         tint: root.ink
     }
-    Label {
+    Words {
         id: label
         x: root.textStart
         width: root.width - x - 10
@@ -50,6 +50,5 @@ T.MenuItem {
         text: root.text
         color: root.ink
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
 }

@@ -15,13 +15,12 @@ Item {
     Accessible.role: Accessible.Heading
     Accessible.name: root.title
 
-    Label {
+    Words {
         id: heading
         width: root.beside ? implicitWidth : root.width
         text: root.title
         type: Theme.heading
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
     Label {
         id: note

@@ -60,13 +60,12 @@ FocusScope {
                         controlRadius: 6
                     }
                 }
-                Label {
+                Words {
                     id: words
                     anchors.centerIn: parent
                     text: segment.text
                     type: segment.current ? Theme.captionStrong : Theme.captionMedium
                     color: segment.current ? Theme.text : Theme.text2
-                    Accessible.ignored: true
                 }
             }
         }

@@ -20,5 +20,4 @@ BorderImage {
     border.right: border.left
     border.top: border.left
     border.bottom: border.left
-    Accessible.ignored: true
 }

@@ -12,10 +12,15 @@ Rectangle {
     property string emptyText: ""
     // One of the marks; tiles without it step back.
     property string highlight: ""
+    readonly property TileView pointed: pointer.hovered ? root.tileAt(pointer.point.position) : null
     readonly property color plate: root.suggested ? Theme.surface : Theme.shelf
     // A suggestion follows an edit at once; the Dock as it is takes its new order visibly.
     readonly property int moveTime: root.suggested ? Theme.tileTime : Theme.applyTime
     readonly property int moveCurve: root.suggested ? Easing.OutCubic : Easing.InOutCubic
+
+    function tileAt(place: point): TileView {
+        return flow.childAt(place.x - flow.x, place.y - flow.y) as TileView;
+    }
 
     implicitHeight: Math.max(tileMetrics.height, flow.height) + 17
     radius: 18
@@ -28,6 +33,9 @@ Rectangle {
         id: tileMetrics
         plateWidth: root.width
         dense: root.dense
+    }
+    TileParts {
+        id: tileParts
     }
     Flow {
         id: flow
@@ -46,6 +54,7 @@ Rectangle {
             }
             delegate: TileView {
                 metrics: tileMetrics
+                parts: tileParts
                 plate: root.plate
                 faded: root.highlight !== "" && !mark.startsWith(root.highlight)
             }
@@ -66,6 +75,7 @@ Rectangle {
         TileView {
             id: leftTile
             metrics: tileMetrics
+            parts: tileParts
             plate: root.plate
             Accessible.ignored: true
             NumberAnimation on opacity {
@@ -85,5 +95,13 @@ Rectangle {
         color: Theme.text2
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
+    }
+    HoverHandler {
+        id: pointer
+    }
+    Hint {
+        parent: root.pointed ?? root
+        text: root.pointed === null ? "" : root.pointed.name
+        shown: root.pointed !== null && !root.pointed.spacer
     }
 }

@@ -40,7 +40,7 @@ T.TabButton {
         size: 18
         tint: root.current ? Theme.accentText : Theme.text2
     }
-    Label {
+    Words {
         id: label
         x: 38
         width: root.width - 48
@@ -48,6 +48,5 @@ T.TabButton {
         text: root.text
         type: root.current ? Theme.heading : Theme.body
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
 }

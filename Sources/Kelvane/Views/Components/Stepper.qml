@@ -25,12 +25,11 @@ T.SpinBox {
             shown: root.visualFocus
         }
     }
-    contentItem: Label {
+    contentItem: Words {
         text: root.valueText
         type: Theme.heading
         color: root.enabled ? Theme.text : Theme.disabled
         horizontalAlignment: Text.AlignHCenter
-        Accessible.ignored: true
     }
     leftPadding: 28
     rightPadding: 28

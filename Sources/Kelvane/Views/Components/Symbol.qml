@@ -1,6 +1,5 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Window
 import Kelvane
 
 // One of the symbols, tinted. Its weight follows from its size; the discs of the change marks ask for "mark".
@@ -14,8 +13,7 @@ Image {
 
     width: root.size
     height: root.size
-    sourceSize.width: root.size * Screen.devicePixelRatio
-    sourceSize.height: root.size * Screen.devicePixelRatio
+    sourceSize.width: root.size * Theme.pixelRatio
+    sourceSize.height: root.size * Theme.pixelRatio
     source: root.name === "" ? "" : "image://symbol/" + root.name + "/" + root.weight + "/" + root.tint
-    Accessible.ignored: true
 }

@@ -33,7 +33,7 @@ T.TextField {
             shown: root.activeFocus
         }
     }
-    Label {
+    Words {
         x: root.leftPadding
         width: root.width - root.leftPadding - root.rightPadding
         anchors.verticalCenter: parent.verticalCenter
@@ -41,7 +41,6 @@ T.TextField {
         text: root.placeholderText
         color: root.placeholderTextColor
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
     Symbol {
         x: 11

@@ -71,13 +71,12 @@ Item {
         size: 18
         tint: symbol.isError ? Theme.danger : Theme.add
     }
-    Label {
+    Words {
         id: label
         x: 39
         width: root.width - 55
         anchors.verticalCenter: parent.verticalCenter
         type: Theme.button
         wrapMode: Text.Wrap
-        Accessible.ignored: true
     }
 }
