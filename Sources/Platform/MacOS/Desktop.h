@@ -2,11 +2,19 @@
 
 #include "Kelvane/Ports/Desktop.h"
 
+#include <memory>
+
 namespace MacOS {
+
+class NotificationObservers;
 
 /// The desktop through AppKit. Main thread only, but for `applicationIcon`.
 class Desktop final : public Kelvane::Desktop {
 public:
+    /// Keeps the application's "reducedMotion" in step with the user's setting from now on.
+    Desktop();
+    ~Desktop() override;
+
     /// `regular` also brings the application to the front: one that just became regular is behind all others.
     void setActivationPolicy(ActivationPolicy policy) override;
     void setAppearance(Appearance appearance) override;
@@ -15,6 +23,9 @@ public:
     /// As large as a symbol in the menu bar, for plain and for dense screens.
     std::optional<QIcon> symbol(const QString& name, const QString& description) override;
     void reveal(const QString& path) override;
+
+private:
+    std::unique_ptr<NotificationObservers> m_observers;
 };
 
 } // namespace MacOS

@@ -2,13 +2,35 @@
 
 #include "Platform/MacOS/ImageDrawing.h"
 #include "Platform/MacOS/MainWindowChrome.h"
+#include "Platform/MacOS/NotificationObservers.h"
 
+#include <QGuiApplication>
 #include <QPixmap>
 #include <QWindow>
 
 #import <AppKit/AppKit.h>
 
 namespace MacOS {
+
+namespace {
+void followMotion() {
+    qGuiApp->setProperty("reducedMotion",
+                         static_cast<bool>(NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion));
+}
+} // namespace
+
+Desktop::Desktop()
+    : m_observers(std::make_unique<NotificationObservers>()) {
+    @autoreleasepool {
+        followMotion();
+        m_observers->observe(NSWorkspace.sharedWorkspace.notificationCenter,
+                             NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification, ^(NSNotification*) {
+                                 followMotion();
+                             });
+    }
+}
+
+Desktop::~Desktop() = default;
 
 void Desktop::setActivationPolicy(ActivationPolicy policy) {
     @autoreleasepool {
@@ -66,16 +88,18 @@ std::optional<QIcon> Desktop::symbol(const QString& name, const QString& descrip
         if (named == nil) {
             return std::nullopt;
         }
-        constexpr int points = 18;
-        NSImage* sized = [named
-            imageWithSymbolConfiguration:[NSImageSymbolConfiguration configurationWithPointSize:points
-                                                                                         weight:NSFontWeightRegular]];
-        if (sized == nil) {
-            return std::nullopt;
-        }
         QIcon icon;
-        for (const int scale : {1, 2}) {
-            icon.addPixmap(QPixmap::fromImage(draw(sized, points, scale)));
+        // An icon is shown smaller than its largest picture, never larger: from a row's symbol to an empty pane's.
+        for (const int points : {14, 16, 18, 22, 28, 40}) {
+            NSImage* sized = [named imageWithSymbolConfiguration:[NSImageSymbolConfiguration
+                                                                     configurationWithPointSize:points
+                                                                                         weight:NSFontWeightRegular]];
+            if (sized == nil) {
+                return std::nullopt;
+            }
+            for (const int scale : {1, 2}) {
+                icon.addPixmap(QPixmap::fromImage(draw(sized, points, scale)));
+            }
         }
         icon.setIsMask(true);
         return icon;

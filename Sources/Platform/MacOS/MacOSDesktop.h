@@ -7,8 +7,9 @@
 /// The application's ports on macOS: owns one adapter a port. Made after the application object, by `main` alone.
 class MacOSDesktop {
 public:
-    /// What must be settled before the application object is made: nothing here.
-    static void prepareEnvironment() {}
+    /// What must be settled before the application object is made: a start brings nothing to the front, as for one at
+    /// login. The window does, when it is shown.
+    static void prepareEnvironment() { qputenv("QT_MAC_DISABLE_FOREGROUND_APPLICATION_TRANSFORM", "1"); }
 
     Kelvane::Workspace& workspace() { return m_workspace; }
     Kelvane::LoginItem& loginItem() { return m_loginItem; }

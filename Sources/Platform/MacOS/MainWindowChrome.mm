@@ -31,11 +31,16 @@ void MainWindowChrome::dress() {
         if (window == nil) {
             return;
         }
+        const QSize content = m_window.size();
         window.styleMask |= NSWindowStyleMaskFullSizeContentView;
         window.titlebarAppearsTransparent = YES;
         window.toolbarStyle = NSWindowToolbarStyleUnified;
         // The name is free again only when the native window before is gone; until then the frame is at least restored.
-        [window setFrameUsingName:@"MainWindow"];
+        if (![window setFrameUsingName:@"MainWindow"]) {
+            // The content has just grown by the title bar.
+            [window
+                setContentSize:NSSize{static_cast<CGFloat>(content.width()), static_cast<CGFloat>(content.height())}];
+        }
         if (![window setFrameAutosaveName:@"MainWindow"]) {
             qWarning("The main window's frame is not being remembered: its name is taken.");
         }

@@ -1,7 +1,5 @@
 #include "Platform/MacOS/Preferences.h"
 
-#include <utility>
-
 namespace MacOS {
 
 namespace {
@@ -21,11 +19,13 @@ Preferences::Preferences(const QString& domain)
     : m_domain(domain) {}
 
 bool Preferences::synchronize() {
+    const std::lock_guard guard(m_lock);
     const bool saved = CFPreferencesAppSynchronize(m_domain.borrow()) != 0;
-    return !std::exchange(m_refusedValue, false) && saved;
+    return saved && m_refused.isEmpty();
 }
 
 std::optional<DockCore::PropertyList> Preferences::copyValue(const QString& key) {
+    const std::lock_guard guard(m_lock);
     const Owner value = copyAppValue(PreferenceKey(key), m_domain);
     if (!value) {
         return std::nullopt;
@@ -34,6 +34,8 @@ std::optional<DockCore::PropertyList> Preferences::copyValue(const QString& key)
 }
 
 void Preferences::setValue(const QString& key, const std::optional<DockCore::PropertyList>& value) {
+    const std::lock_guard guard(m_lock);
+    m_refused.remove(key);
     if (!value) {
         setAppValue(PreferenceKey(key), nullptr, m_domain);
         return;
@@ -41,7 +43,7 @@ void Preferences::setValue(const QString& key, const std::optional<DockCore::Pro
     const Owner handedOver = makePropertyList(*value);
     // Null would remove the key: a value that cannot be written must leave the old one alone.
     if (!handedOver) {
-        m_refusedValue = true;
+        m_refused.insert(key);
         return;
     }
     setAppValue(PreferenceKey(key), handedOver.borrow(), m_domain);

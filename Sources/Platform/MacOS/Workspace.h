@@ -6,6 +6,8 @@
 
 namespace MacOS {
 
+class NotificationObservers;
+
 /// The workspace's notifications as signals, and the application in front. Main thread only; its answers are fresh
 /// while the main run loop turns.
 class Workspace final : public Kelvane::Workspace {
@@ -20,9 +22,7 @@ public:
     std::optional<std::chrono::duration<double>> sinceLastInput() override;
 
 private:
-    /// The observers' tokens, which plain C++ cannot name.
-    struct Observers;
-    std::unique_ptr<Observers> m_observers;
+    std::unique_ptr<NotificationObservers> m_observers;
 };
 
 } // namespace MacOS

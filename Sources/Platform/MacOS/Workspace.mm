@@ -1,38 +1,11 @@
 #include "Platform/MacOS/Workspace.h"
 
 #include "Platform/MacOS/InputIdleTime.h"
-
-#include <QList>
+#include "Platform/MacOS/NotificationObservers.h"
 
 #import <AppKit/AppKit.h>
 
 namespace MacOS {
-
-/// A centre and the token that it gave for one block; the observation ends with it.
-struct Workspace::Observers {
-    struct Observer {
-        NSNotificationCenter* centre;
-        id<NSObject> token;
-    };
-    QList<Observer> all;
-
-    void observe(NSNotificationCenter* centre, NSNotificationName name, void (^block)(NSNotification*)) {
-        // The main queue: the workspace may post from any thread, and everything of ours lives on the main one.
-        all.append({centre, [centre addObserverForName:name
-                                                object:nil
-                                                 queue:NSOperationQueue.mainQueue
-                                            usingBlock:block]});
-    }
-
-    Observers() = default;
-    ~Observers() {
-        for (const Observer& observer : all) {
-            [observer.centre removeObserver:observer.token];
-        }
-    }
-    Observers(const Observers&) = delete;
-    Observers& operator=(const Observers&) = delete;
-};
 
 namespace {
 
@@ -52,7 +25,7 @@ Kelvane::RunningApplication describe(NSRunningApplication* application) {
 
 Workspace::Workspace(QObject* parent)
     : Kelvane::Workspace(parent)
-    , m_observers(std::make_unique<Observers>()) {
+    , m_observers(std::make_unique<NotificationObservers>()) {
     @autoreleasepool {
         // The blocks run on the main thread, where this object dies and its observers with it: the pointer is good.
         NSNotificationCenter* workspace = NSWorkspace.sharedWorkspace.notificationCenter;

@@ -42,11 +42,13 @@ extern "C" NSNotificationName const NSWorkspaceWillSleepNotification;           
 extern "C" NSNotificationName const NSWorkspaceDidWakeNotification;                                           // nsworkspace/didwakenotification
 extern "C" NSNotificationName const NSWorkspaceSessionDidResignActiveNotification;                            // nsworkspace/sessiondidresignactivenotification
 extern "C" NSNotificationName const NSWorkspaceSessionDidBecomeActiveNotification;                            // nsworkspace/sessiondidbecomeactivenotification
+extern "C" NSNotificationName const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification API_AVAILABLE(macos(10.10)); // nsworkspace/accessibilitydisplayoptionsdidchangenotification
 extern "C" NSString* const NSWorkspaceApplicationKey API_AVAILABLE(macos(10.6));                              // nsworkspace/applicationuserinfokey
 
 @interface NSWorkspace : NSObject                                                            // nsworkspace
 @property(class, readonly, strong) NSWorkspace* sharedWorkspace;                             // nsworkspace/shared
 @property(readonly, strong) NSNotificationCenter* notificationCenter;                        // nsworkspace/notificationcenter
+@property(readonly) BOOL accessibilityDisplayShouldReduceMotion API_AVAILABLE(macos(10.12)); // nsworkspace/accessibilitydisplayshouldreducemotion
 @property(nullable, readonly, strong) NSRunningApplication* frontmostApplication;            // nsworkspace/frontmostapplication
 - (nullable NSURL*)URLForApplicationWithBundleIdentifier:(NSString*)bundleIdentifier;        // nsworkspace/urlforapplication(withbundleidentifier:)
 - (NSImage*)iconForFile:(NSString*)path;                                                     // nsworkspace/icon(forfile:)
@@ -94,6 +96,7 @@ constexpr NSWindowToolbarStyle NSWindowToolbarStyleUnified = 3;                 
 @property NSWindowStyleMask styleMask;                                             // nswindow/stylemask-swift.property
 @property BOOL titlebarAppearsTransparent API_AVAILABLE(macos(10.10));             // nswindow/titlebarappearstransparent
 @property NSWindowToolbarStyle toolbarStyle API_AVAILABLE(macos(11.0));            // nswindow/toolbarstyle-swift.property
+- (void)setContentSize:(NSSize)size;                                                // nswindow/setcontentsize(_:)
 - (BOOL)setFrameUsingName:(NSString*)name;                                         // nswindow/setframeusingname(_:)
 - (BOOL)setFrameAutosaveName:(NSString*)name;                                      // nswindow/setframeautosavename(_:)
 @end
