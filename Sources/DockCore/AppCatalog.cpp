@@ -97,11 +97,8 @@ QList<AppInfo> AppCatalog::installedApps(Scan mode) {
     const QList<AppInfo> apps = scan();
     const std::lock_guard guard(m_lock);
     m_installedCache = apps;
-    for (const AppInfo& app : apps) {
-        std::optional<AppInfo>& known = m_cache[app.bundleID];
-        if (!known)
-            known = app;
-    }
+    for (const AppInfo& app : apps)
+        keep(app);
     return apps;
 }
 
@@ -116,6 +113,18 @@ std::optional<AppInfo> AppCatalog::info(const QString& bundleID) {
     const std::lock_guard guard(m_lock);
     m_cache.insert(bundleID, app);
     return app;
+}
+
+void AppCatalog::add(const AppInfo& app) {
+    Platform::current().bundles.remember(app.path);
+    const std::lock_guard guard(m_lock);
+    keep(app);
+}
+
+void AppCatalog::keep(const AppInfo& app) {
+    std::optional<AppInfo>& known = m_cache[app.bundleID];
+    if (!known)
+        known = app;
 }
 
 bool AppCatalog::isInstalled(const QString& bundleID) {

@@ -30,8 +30,13 @@ public:
     /// The application with this identifier wherever the computer knows it; a miss is remembered until a scan finds it.
     std::optional<AppInfo> info(const QString& bundleID);
     bool isInstalled(const QString& bundleID);
+    /// Knows from now on an application that somebody has shown, wherever it lies.
+    void add(const AppInfo& app);
 
 private:
+    /// Under the lock; what is known to be installed stays as it is.
+    void keep(const AppInfo& app);
+
     std::mutex m_lock;
     QHash<QString, std::optional<AppInfo>> m_cache;
     std::optional<QList<AppInfo>> m_installedCache;

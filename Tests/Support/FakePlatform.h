@@ -53,6 +53,7 @@ public:
     std::optional<QString> identifier(const QString& path) override;
     QString displayName(const QString& path) override;
     std::optional<QString> path(const QString& identifier) override;
+    void remember(const QString& path) override { remembered += path; }
 
     /// Puts a bundle at `path`; without an identifier it is a bundle that has none.
     void add(const QString& path, const std::optional<QString>& identifier, const QString& displayName = {});
@@ -61,6 +62,7 @@ public:
     /// How often each path was read and each identifier looked up.
     QMap<QString, int> reads;
     QMap<QString, int> lookups;
+    QStringList remembered;
 
 private:
     struct Bundle {

@@ -17,6 +17,9 @@ public:
     virtual QString displayName(const QString& path) = 0;
     /// The path of the application with this bundle identifier, wherever the computer knows it to be.
     virtual std::optional<QString> path(const QString& identifier) = 0;
+    /// Somebody has shown the application at `path`: from now on `path` knows it by its identifier, also in processes
+    /// to come.
+    virtual void remember(const QString& path) = 0;
 };
 
 } // namespace DockCore

@@ -1,10 +1,14 @@
 #include "Kelvane/ViewModels/AppPicker.h"
 
+#include "DockCore/AppCatalog.h"
 #include "DockCore/AppInfo.h"
+#include "DockCore/Platform.h"
+#include "DockCore/Ports/Folders.h"
 #include "Kelvane/AppModel.h"
 
 #include <QDir>
 
+#include <algorithm>
 #include <utility>
 
 using namespace DockCore;
@@ -22,7 +26,10 @@ AppPicker::AppPicker(AppModel& model, ProfileEditor& editor, QObject* parent)
 }
 
 QUrl AppPicker::applicationsFolder() {
-    return QUrl::fromLocalFile(u"/Applications"_s);
+    const QStringList folders = AppCatalog::searchFolders();
+    const auto used = std::ranges::find_if(
+        folders, [](const QString& folder) { return !Platform::current().folders.entries(folder).isEmpty(); });
+    return QUrl::fromLocalFile(used == folders.end() ? folders.constFirst() : *used);
 }
 
 void AppPicker::setSearch(const QString& search) {
@@ -69,6 +76,7 @@ void AppPicker::addBundle(const QUrl& url) {
         setProblem(u"“"_s + QDir(path).dirName() + u"” is not an app."_s);
         return;
     }
+    AppCatalog::shared().add(*app);
     m_editor.add(m_target, app->bundleID);
     setProblem({});
 }

@@ -1,9 +1,13 @@
 #include "Platform/Linux/Bundles.h"
 
 #include "DockCore/AppCatalog.h"
+#include "DockCore/Error.h"
+#include "DockCore/JSONFile.h"
+#include "DockCore/Paths.h"
 #include "DockCore/PropertyList.h"
 #include "Platform/Linux/Folders.h"
 
+#include <QJsonArray>
 #include <QSet>
 
 #include <algorithm>
@@ -93,13 +97,40 @@ void Bundles::Index::add(const QString& bundle, const std::optional<QString>& id
     }
 }
 
-Bundles::Bundles(std::function<QStringList()> searchFolders)
-    : m_searchFolders(std::move(searchFolders)) {}
+Bundles::Bundles(std::function<QStringList()> searchFolders, std::function<QString()> memory)
+    : m_searchFolders(std::move(searchFolders))
+    , m_memory(std::move(memory)) {}
 
 Bundles::~Bundles() = default;
 
 QStringList Bundles::catalogFolders() {
     return DockCore::AppCatalog::searchFolders();
+}
+
+QString Bundles::memoryFile() {
+    return DockCore::Paths::support() + u"/bundles.json"_s;
+}
+
+QStringList Bundles::remembered() const {
+    const std::optional<QJsonValue> kept = DockCore::JSONFile::read(m_memory());
+    return kept ? DockCore::JSONFile::strings(*kept).value_or(QStringList()) : QStringList();
+}
+
+void Bundles::remember(const QString& path) {
+    const QString bundle = withoutTrailingSlashes(path);
+    const std::optional<QString> identifier = this->identifier(bundle);
+    if (!identifier || this->path(*identifier)) {
+        return;
+    }
+    QStringList bundles = remembered();
+    bundles.append(bundle);
+    try {
+        DockCore::JSONFile::save(QJsonArray::fromStringList(bundles), m_memory());
+    } catch (const DockCore::Error&) {
+        return;
+    }
+    const std::lock_guard guard(m_lock);
+    ++m_version;
 }
 
 std::optional<QString> Bundles::identifier(const QString& path) {
@@ -228,6 +259,10 @@ std::shared_ptr<const Bundles::Index> Bundles::build(const Index* previous) {
             index->folders.insert(path, folder);
         }
         level = below;
+    }
+    const QStringList bundles = remembered();
+    for (const QString& bundle : bundles) {
+        index->add(bundle, identifier(bundle));
     }
     return index;
 }

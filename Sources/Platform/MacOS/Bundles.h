@@ -10,6 +10,8 @@ public:
     std::optional<QString> identifier(const QString& path) override;
     QString displayName(const QString& path) override;
     std::optional<QString> path(const QString& identifier) override;
+    /// Launch Services has noticed it by itself.
+    void remember(const QString&) override {}
 };
 
 } // namespace MacOS

@@ -1,5 +1,6 @@
 #include "Kelvane/ViewModels/AppPicker.h"
 
+#include "DockCore/AppCatalog.h"
 #include "DockCore/Paths.h"
 #include "Support/ModelWorld.h"
 
@@ -105,10 +106,14 @@ private Q_SLOTS:
     }
 
     void anyBundleCanBeChosen() {
-        world->bundles.add(u"/Users/x/Tools/Odd.app"_s, u"org.example.odd"_s, u"Odd"_s);
         picker->openForPinned();
+        // A profile from elsewhere may have named it before it was there.
+        QVERIFY(!AppCatalog::shared().isInstalled(u"org.example.odd"_s));
+        world->bundles.add(u"/Users/x/Tools/Odd.app"_s, u"org.example.odd"_s, u"Odd"_s);
         picker->addBundle(QUrl(u"file:///Users/x/Tools/Odd.app/"_s));
         QCOMPARE(model->activeProfile().pinned.last(), u"org.example.odd"_s);
+        QVERIFY(AppCatalog::shared().isInstalled(u"org.example.odd"_s));
+        QCOMPARE(world->bundles.remembered, QStringList{u"/Users/x/Tools/Odd.app"_s});
         QCOMPARE(picker->problem(), QString());
     }
 
@@ -133,6 +138,10 @@ private Q_SLOTS:
 
     void thePanelBeginsAtTheApplications() {
         QCOMPARE(AppPicker::applicationsFolder().toLocalFile(), u"/Applications"_s);
+        world->folders.listing.clear();
+        QCOMPARE(AppPicker::applicationsFolder().toLocalFile(), u"/Applications"_s);
+        world->folders.listing.insert(u"/Users/x/Applications"_s, {u"/Users/x/Applications/Mail.app"_s});
+        QCOMPARE(AppPicker::applicationsFolder().toLocalFile(), u"/Users/x/Applications"_s);
     }
 
 private:

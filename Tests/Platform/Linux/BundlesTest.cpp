@@ -42,11 +42,18 @@ class LinuxBundlesTest : public BundlesContract {
             return bundle;
         }
 
+        /// As another process that runs later has it.
+        Linux::Bundles another() const {
+            return Linux::Bundles(
+                [this] {
+                    return QStringList{path(u"/Applications"_s), path(u"/System/Applications"_s)};
+                },
+                [this] { return path(u"/bundles.json"_s); });
+        }
+
     private:
         QTemporaryDir m_directory;
-        Linux::Bundles m_bundles = Linux::Bundles([this] {
-            return QStringList{path(u"/Applications"_s), path(u"/System/Applications"_s)};
-        });
+        Linux::Bundles m_bundles = another();
     };
     std::unique_ptr<Computer> makeComputer() override { return std::make_unique<DiskComputer>(); }
 
@@ -60,6 +67,32 @@ class LinuxBundlesTest : public BundlesContract {
     }
 
 private Q_SLOTS:
+    void whatWasRememberedIsFoundWhereverItLies() {
+        DiskComputer computer;
+        const QString path = computer.makeBundle(u"/Elsewhere/Odd"_s, u"org.example.odd"_s);
+        QCOMPARE(computer.bundles().path(u"org.example.odd"_s), std::nullopt);
+        computer.bundles().remember(path + u'/');
+        QCOMPARE(computer.bundles().path(u"org.example.odd"_s), std::optional(path));
+        QCOMPARE(computer.another().path(u"org.example.odd"_s), std::optional(path));
+        const QString second = computer.makeBundle(u"/Elsewhere/Even"_s, u"org.example.even"_s);
+        computer.bundles().remember(second);
+        QCOMPARE(computer.another().path(u"org.example.even"_s), std::optional(second));
+        QCOMPARE(computer.another().path(u"org.example.odd"_s), std::optional(path));
+        computer.remove(path);
+        QCOMPARE(computer.bundles().path(u"org.example.odd"_s), std::nullopt);
+        const QString installed = computer.install(u"Odd"_s, u"org.example.odd"_s);
+        computer.makeBundle(u"/Elsewhere/Odd"_s, u"org.example.odd"_s);
+        QCOMPARE(computer.another().path(u"org.example.odd"_s), std::optional(installed));
+    }
+
+    void onlyWhatIsNotFoundOtherwiseIsKept() {
+        DiskComputer computer;
+        computer.bundles().remember(computer.install(u"Safari"_s, safari()));
+        computer.bundles().remember(computer.makeBundle(u"/Elsewhere/Bare"_s, std::nullopt));
+        computer.bundles().remember(computer.path(u"/Elsewhere/None.app"_s));
+        QVERIFY(!QFile::exists(computer.path(u"/bundles.json"_s)));
+    }
+
     void theIdentifierIsReadFromBothFormats_data() {
         QTest::addColumn<int>("format");
         QTest::newRow("XML") << int(PropertyList::Format::xml);
