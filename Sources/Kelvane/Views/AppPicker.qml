@@ -6,9 +6,10 @@ import Kelvane
 Sheet {
     id: root
 
-    onOpened: (root.contentItem as PickerContent).begin()
+    onAboutToShow: (root.contentItem as PickerContent).begin()
 
     contentItem: PickerContent {
+        focus: true
         onFinished: root.close()
     }
 }

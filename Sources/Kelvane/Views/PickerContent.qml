@@ -11,7 +11,7 @@ FocusScope {
     function begin() {
         list.currentIndex = -1;
         list.positionViewAtBeginning();
-        search.forceActiveFocus(Qt.TabFocusReason);
+        search.focus = true;
     }
 
     Accessible.role: Accessible.Dialog

@@ -112,6 +112,27 @@ private Q_SLOTS:
         mac->press(Qt::Key_Escape);
     }
 
+    void theKeysComeBackFromAConfirmation() {
+        mac->click(u"Delete Profile…"_s);
+        QTRY_COMPARE(mac->focused(), u"Delete"_s);
+        mac->click(u"Cancel"_s);
+        QTRY_COMPARE(mac->focused(), u"Delete Profile…"_s);
+        QVERIFY(!mac->quick()->activeFocusItem()->property("visualFocus").toBool());
+        mac->press(Qt::Key_Tab);
+        mac->tabTo(u"Delete Profile…"_s);
+        mac->press(Qt::Key_Space);
+        QTRY_COMPARE(mac->focused(), u"Delete"_s);
+        mac->press(Qt::Key_Escape);
+        QTRY_COMPARE(mac->focused(), u"Delete Profile…"_s);
+        QVERIFY(mac->quick()->activeFocusItem()->property("visualFocus").toBool());
+    }
+
+    void aTabStopsOnceAtTheStepper() {
+        mac->tabTo(u"Most-used apps"_s);
+        mac->press(Qt::Key_Tab);
+        QCOMPARE(mac->focused(), u"Last 7 days"_s);
+    }
+
     void aConfirmedDeletionRemovesTheProfile() {
         const qsizetype before = mac->model->profiles().size();
         const QStringList dock = mac->world.dock();

@@ -15,9 +15,11 @@ Dialog {
     width: 360
     aboveShare: 0.44
     height: contentItem.implicitHeight
+    onAboutToShow: (root.contentItem as ConfirmationContent).begin()
     onOpened: root.contentItem.forceActiveFocus(Qt.TabFocusReason)
 
     contentItem: ConfirmationContent {
+        focus: true
         title: root.title
         text: root.text
         action: root.action

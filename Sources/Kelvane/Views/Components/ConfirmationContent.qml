@@ -13,6 +13,12 @@ FocusScope {
     signal accepted
     signal rejected
 
+    // Return accepts, whatever had the keys when it was asked before.
+    function begin() {
+        primary.focus = !root.destructive;
+        confirming.focus = root.destructive;
+    }
+
     implicitHeight: buttons.y + buttons.height + 24
     Accessible.role: Accessible.Dialog
     Accessible.name: root.title
@@ -52,14 +58,14 @@ FocusScope {
             onClicked: root.rejected()
         }
         PrimaryButton {
+            id: primary
             visible: !root.destructive
-            focus: !root.destructive
             text: root.action
             onClicked: root.accepted()
         }
         ConfirmingButton {
+            id: confirming
             visible: root.destructive
-            focus: root.destructive
             text: root.action
             onClicked: root.accepted()
         }

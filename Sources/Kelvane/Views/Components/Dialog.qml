@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
+import QtQuick.Window
 import Kelvane
 
 // What lies over the window and takes all input: a plate over the scrim, in the middle of the detail area.
@@ -9,6 +10,19 @@ T.Popup {
 
     // How much of the free height lies above the plate.
     property real aboveShare: 0.5
+    // Who had the keys before gets them back, with the ring if it showed.
+    property Item former: null
+    property bool ringed: false
+
+    onAboutToShow: {
+        root.former = root.parent.Window.activeFocusItem;
+        const control = root.former as T.Control;
+        root.ringed = control !== null && control.visualFocus;
+    }
+    onClosed: {
+        if (root.former)
+            root.former.forceActiveFocus(root.ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
+    }
 
     parent: T.Overlay.overlay
     x: parent ? Math.round(Math.max(8, (parent.width - width + (App.firstRun ? 0 : Theme.sidebarWidth)) / 2)) : 0

@@ -16,6 +16,8 @@ T.SpinBox {
     focusPolicy: Qt.StrongFocus
     Accessible.name: root.label
     Accessible.description: root.valueText
+    // The template takes what shows the value for a field and stops there, too, on the way from control to control.
+    Component.onCompleted: contentItem.activeFocusOnTab = false
 
     background: Rectangle {
         radius: 8
