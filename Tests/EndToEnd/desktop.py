@@ -4,6 +4,7 @@ import os
 import pathlib
 import shutil
 import signal
+import struct
 import subprocess
 import sys
 import tempfile
@@ -48,7 +49,8 @@ class Desktop:
     def start_x(self):
         read, write = os.pipe()
         self.x_server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24", "-noreset", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24", "-noreset", "-nolisten", "tcp",
+             "-fbdir", self.runtime],
             pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.processes.append(self.x_server)
         os.close(write)
@@ -84,6 +86,19 @@ class Desktop:
         self.output("xdotool", "mousemove", str(x), str(y))
         self.output("xdotool", "click", "--repeat", str(times), "--delay", "60", "1")
 
+    def pixels(self, left, top, width, height):
+        """What the screen shows there, as bytes."""
+        screen = pathlib.Path(self.runtime, "Xvfb_screen0").read_bytes()
+        # The dump begins with numbers: the first is its own size, further on the bytes a row and the colours that follow.
+        numbers = struct.unpack(">25I", screen[:100])
+        start, stride = numbers[0] + 12 * numbers[19], numbers[12]
+        return b"".join(screen[start + row * stride + 4 * left:start + row * stride + 4 * (left + width)]
+                        for row in range(top, top + height))
+
+    def wheel(self, x, y, steps):
+        """Turns the wheel over a place, towards the end or, with a negative number, towards the beginning."""
+        self.output("xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(abs(steps)), "4" if steps < 0 else "5")
+
     def drag(self, start, end):
         """Presses at one place, goes to the other on a straight line, and lets go there."""
         self.output("xdotool", "mousemove", *map(str, start), "mousedown", "1")
@@ -94,7 +109,8 @@ class Desktop:
 
     def close(self):
         for process in reversed(self.processes):
-            process.send_signal(signal.SIGKILL)
+            # Asked to end, the X server takes its lock file along.
+            process.send_signal(signal.SIGTERM if process is self.x_server else signal.SIGKILL)
             process.wait()
             if process.stdout:
                 process.stdout.close()

@@ -1,5 +1,7 @@
 """What a window shows, read as a screen reader reads it, and hands that click and type where it shows it."""
 
+import functools
+
 import dbus
 import dbus.bus
 
@@ -44,8 +46,9 @@ class Control:
     def children(self):
         return [Control(self.bus, *child) for child in self.object.GetChildren(dbus_interface=ACCESSIBLE)]
 
-    @property
+    @functools.cached_property
     def states(self):
+        """As they are when it is looked at first; whoever waits for a change looks for the control again."""
         words = self.object.GetState(dbus_interface=ACCESSIBLE)
         return {name for name, place in STATES.items() if int(words[0]) >> place & 1}
 
@@ -87,35 +90,31 @@ class Window:
         registry = Control(self.bus, "org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
         return [child for child in registry.children if process(self.bus, child.reference[0]) == self.pid]
 
-    def all(self, name=None, role=None, about=None):
-        """Everything that shows and has these, in reading order; `about` is the description."""
+    def all(self, name=None, role=None, about=None, inside=None):
+        """Everything that shows and has these, in reading order; `about` is the description, `inside` the name of what it
+        lies in."""
         def walk():
             try:
-                return [[control for root in self.roots() for control in root.all()
-                         if name in (None, control.name) and role in (None, control.role)
+                shown = [control for root in self.roots() for control in root.all()]
+                if inside:
+                    shown = [control for around in shown if around.name == inside for control in around.all()]
+                return [[control for control in shown if name in (None, control.name) and role in (None, control.role)
                          and about in (None, control.description)]]
             except dbus.DBusException:
                 # Something went while it was looked at.
                 return None
         return until(walk)[0]
 
-    def find(self, name, role=None, about=None):
+    def find(self, name, **more):
         """The first that has these."""
         try:
-            return until(lambda: self.all(name, role, about))[0]
+            return until(lambda: self.all(name, **more))[0]
         except AssertionError:
             shown = [control.name for control in self.all() if control.name]
-            raise AssertionError(f"there is no {name!r} ({role}, {about}) among {shown}") from None
+            raise AssertionError(f"there is no {name!r} ({more}) among {shown}") from None
 
-    def shows(self, name, role=None):
-        return bool(self.all(name, role))
-
-    def await_gone(self, name, role=None):
-        until(lambda: not self.shows(name, role))
-
-    def names(self, name, role=None):
-        """Names of what lies in the thing of that name."""
-        return [child.name for child in self.find(name, role).children]
+    def await_gone(self, name, **more):
+        until(lambda: not self.all(name, **more))
 
     def focused(self):
         """What takes the keys; of things in each other the innermost."""
@@ -124,19 +123,19 @@ class Window:
     # Acting
 
     def has_keys(self):
-        return "active" in self.find("Kelvane", "frame").states
+        return "active" in self.find("Kelvane", role="frame").states
 
     def take_keys(self):
         self.desktop.output("xdotool", "windowactivate", until(lambda: self.desktop.windows(self.pid))[0])
         until(self.has_keys)
 
-    def place(self, name, role=None, about=None):
+    def place(self, name, **more):
         """The middle of a control, once it has come to rest."""
-        self.find(name, role, about)
+        self.find(name, **more)
         seen = []
 
         def rests():
-            for control in self.all(name, role, about)[:1]:
+            for control in self.all(name, **more)[:1]:
                 try:
                     seen.append(control.middle)
                 except dbus.DBusException:
@@ -145,8 +144,32 @@ class Window:
         until(rests)
         return seen[-1]
 
-    def click(self, name, role=None, about=None):
-        self.desktop.click(*self.place(name, role, about))
+    def click(self, name, **more):
+        self.desktop.click(*self.place(name, **more))
+
+    def scroll_to(self, name, above, **more):
+        """Turns the wheel until a control lies below the window's edge and above something at its foot."""
+        top, bottom = self.find("Kelvane", role="frame").place[1] + 24, self.place(above)[1] - 48
+        for _ in range(40):
+            x, y = self.place(name, **more)
+            if top < y < bottom:
+                return
+            self.desktop.wheel(x, (top + bottom) // 2, -1 if y < top else 1)
+        raise AssertionError(f"the wheel does not bring {name!r} into sight")
+
+    def walk_to(self, name, **more):
+        """Presses Tab until the keys go to a control."""
+        wanted, here = self.find(name, **more), self.focused()
+        for _ in range(80):
+            if here == wanted:
+                return
+            before = here
+            self.keys("Tab")
+            here = until(lambda: next((now for now in [self.focused()] if now and now != before), None))
+        raise AssertionError(f"the Tab key does not come to {name!r}")
 
     def keys(self, *keys):
         self.desktop.key(*keys)
+
+    def type(self, text):
+        self.desktop.type(text)
