@@ -13,5 +13,6 @@ Loader {
     anchors.fill: parent
     anchors.margins: root.edge ? 0 : -4
     active: root.shown
-    source: "FocusLine.qml"
+    // Relative to this file, not to the one that uses it.
+    source: Qt.resolvedUrl("FocusLine.qml")
 }

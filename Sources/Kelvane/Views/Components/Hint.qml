@@ -11,7 +11,7 @@ Loader {
 
     anchors.fill: parent
     active: root.shown && root.text !== ""
-    source: "ToolTip.qml"
+    source: Qt.resolvedUrl("ToolTip.qml")
     onLoaded: {
         const tip = root.item as ToolTip;
         tip.text = Qt.binding(() => root.text);

@@ -34,7 +34,13 @@ Item {
     }
 
     // A list that the keys enter first puts itself in order.
-    onFocusedChanged: Qt.callLater(root.reveal)
+    onFocusedChanged: settling.restart()
+
+    Timer {
+        id: settling
+        interval: 0
+        onTriggered: root.reveal()
+    }
 
     Shortcut {
         sequence: "PgDown"
