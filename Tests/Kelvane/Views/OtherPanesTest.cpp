@@ -107,6 +107,20 @@ private Q_SLOTS:
         QTRY_COMPARE(ProfileStore().settings.autoUpdate, AutoUpdate::hourly);
     }
 
+    void theReturnKeyOpensAMenuAndChooses() {
+        mac->open(Pane::settings);
+        mac->tabTo(u"Reorganize automatically"_s);
+        mac->press(Qt::Key_Return);
+        QTRY_VERIFY(mac->find(u"Every hour"_s) != nullptr);
+        mac->press(Qt::Key_Up);
+        mac->press(Qt::Key_Up);
+        QVERIFY(mac->find(u"Every hour"_s) != nullptr);
+        QCOMPARE(ProfileStore().settings.autoUpdate, AutoUpdate::daily);
+        mac->press(Qt::Key_Return);
+        QTRY_VERIFY(mac->find(u"Every 4 hours"_s) == nullptr);
+        QCOMPARE(ProfileStore().settings.autoUpdate, AutoUpdate::hourly);
+    }
+
     void thePauseIsShownAndResumed() {
         arrange();
         mac->world.setDock({u"Chess"_s});

@@ -11,6 +11,16 @@ T.ComboBox {
     required property string label
     property bool inCard: false
     readonly property bool hasSymbols: root.valueRole !== ""
+    // The menu was opened by a key that is still down.
+    property bool opening: false
+
+    function openByKey(event: KeyEvent) {
+        event.accepted = !root.popup.visible;
+        if (event.accepted) {
+            root.opening = true;
+            root.popup.open();
+        }
+    }
 
     leftPadding: 12
     rightPadding: 8
@@ -20,8 +30,14 @@ T.ComboBox {
     Accessible.name: root.label
     Accessible.description: root.displayText
     Accessible.onPressAction: root.popup.open()
-    Keys.onReturnPressed: root.popup.open()
-    Keys.onEnterPressed: root.popup.open()
+    Keys.onReturnPressed: event => root.openByKey(event)
+    Keys.onEnterPressed: event => root.openByKey(event)
+    // The template takes the release of either key for a choice.
+    Keys.onReleased: event => {
+        event.accepted = root.opening && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter);
+        if (event.accepted)
+            root.opening = false;
+    }
 
     background: Rectangle {
         radius: root.inCard ? 7 : 8
