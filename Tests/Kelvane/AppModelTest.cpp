@@ -131,7 +131,7 @@ void AppModelTest::anEmptyProposalNeverEmptiesTheDock() {
 }
 
 void AppModelTest::applyWhileAChangeRunsDoesNothing() {
-    QSemaphore gate;
+    Gate gate;
     world->holdRestarts(gate);
     QVERIFY(refreshAndWait(*model));
     model->applyActive(AppModel::Voice::spoken);
@@ -139,13 +139,13 @@ void AppModelTest::applyWhileAChangeRunsDoesNothing() {
     model->applyActive(AppModel::Voice::spoken, [&outcome](const Outcome& result) { outcome = result; });
     QVERIFY(outcome && outcome->refused);
     QVERIFY(!model->toast());
-    gate.release(3);
+    gate.open();
     QVERIFY(waitForChange(*model));
     QCOMPARE(model->snapshots().size(), 1);
 }
 
 void AppModelTest::restoreWhileAChangeRunsDoesNothing() {
-    QSemaphore gate;
+    Gate gate;
     world->holdRestarts(gate);
     model->captureOriginal();
     QVERIFY(refreshAndWait(*model));
@@ -153,7 +153,7 @@ void AppModelTest::restoreWhileAChangeRunsDoesNothing() {
     std::optional<Outcome> outcome;
     model->restore(model->snapshots().constFirst(), [&outcome](const Outcome& result) { outcome = result; });
     QVERIFY(outcome && outcome->refused);
-    gate.release(3);
+    gate.open();
     QVERIFY(waitForChange(*model));
     QCOMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
 }
@@ -218,13 +218,13 @@ void AppModelTest::readingTheDockDuringOurOwnChangeIsNoManualChange() {
     model->applyActive(AppModel::Voice::spoken);
     QVERIFY(waitForChange(*model));
     pinActive(*model, {u"e"_s});
-    QSemaphore gate;
+    Gate gate;
     world->holdRestarts(gate);
     model->applyActive(AppModel::Voice::spoken);
     QTRY_COMPARE(world->dock(), QStringList{u"e"_s});
     model->refresh();
     QVERIFY(!model->settings().autoPaused);
-    gate.release(3);
+    gate.open();
     QVERIFY(waitForChange(*model));
     QVERIFY(!model->settings().autoPaused);
 }

@@ -409,7 +409,7 @@ void AutoUpdateTest::aManualApplyEndsThePause() {
 
 void AutoUpdateTest::aCheckDuringAChangeDoesNotOverlapIt() {
     startWith(seasoned(world->clock.now()));
-    QSemaphore gate;
+    Gate gate;
     world->holdRestarts(gate);
     model->applyActive(AppModel::Voice::spoken);
     QVERIFY(model->isWorking());
@@ -419,7 +419,7 @@ void AutoUpdateTest::aCheckDuringAChangeDoesNotOverlapIt() {
     QVERIFY(refreshed.wait(10'000));
     QVERIFY(model->isWorking());
     QVERIFY(!model->settings().autoPaused);
-    gate.release(10);
+    gate.open();
     QVERIFY(waitForChange(*model));
     QCOMPARE(dock(), QStringList({u"c"_s, u"a"_s}));
     QCOMPARE(model->snapshots().size(), 1);

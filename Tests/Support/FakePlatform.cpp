@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 namespace Fakes {
 
 bool Preferences::synchronize() {
+    const std::lock_guard guard(lock);
     ++synchronizations;
     if (refusesToSave && !m_pending.isEmpty()) {
         m_pending.clear();
@@ -27,6 +28,7 @@ bool Preferences::synchronize() {
 }
 
 std::optional<DockCore::PropertyList> Preferences::copyValue(const QString& key) {
+    const std::lock_guard guard(lock);
     if (const auto pending = m_pending.constFind(key); pending != m_pending.constEnd())
         return pending.value();
     if (const auto value = stored.constFind(key); value != stored.constEnd())
@@ -35,12 +37,16 @@ std::optional<DockCore::PropertyList> Preferences::copyValue(const QString& key)
 }
 
 void Preferences::setValue(const QString& key, const std::optional<DockCore::PropertyList>& value) {
+    const std::lock_guard guard(lock);
     m_pending.insert(key, value);
 }
 
 std::optional<int> Processes::run(const QString& executable, const QStringList& arguments) {
     const Run run{executable, arguments};
-    runs.append(run);
+    {
+        const std::lock_guard guard(lock);
+        runs.append(run);
+    }
     return answer ? answer(run) : 0;
 }
 

@@ -24,6 +24,8 @@ public:
     std::optional<DockCore::PropertyList> copyValue(const QString& key) override;
     void setValue(const QString& key, const std::optional<DockCore::PropertyList>& value) override;
 
+    /// Held for every question; a test that looks into `stored` while a change runs holds it too.
+    mutable std::mutex lock;
     /// What the domain holds.
     DockCore::PropertyList::Dictionary stored;
     bool refusesToSave = false;
@@ -43,6 +45,8 @@ public:
     };
     std::optional<int> run(const QString& executable, const QStringList& arguments) override;
 
+    /// Held while a run is noted; a test that looks at `runs` while a change runs holds it too.
+    mutable std::mutex lock;
     QList<Run> runs;
     /// What a run gives; by default 0.
     std::function<std::optional<int>(const Run&)> answer;

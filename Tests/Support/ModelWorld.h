@@ -10,7 +10,24 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <memory>
+#include <mutex>
+
 namespace Fakes {
+
+/// Where changes of the Dock wait at its restart until it is opened, at the latest when it goes.
+class Gate {
+public:
+    Gate() = default;
+    ~Gate() { open(); }
+    Q_DISABLE_COPY_MOVE(Gate)
+    void open() { m_semaphore->release(1000); }
+
+private:
+    friend class ModelWorld;
+    // A change may still come by when the gate has gone.
+    std::shared_ptr<QSemaphore> m_semaphore = std::make_shared<QSemaphore>();
+};
 
 /// A world with a Dock and some applications, and a model in it. Applications are named by one word: "mail" is
 /// "org.example.mail", called "mail", and is installed.
@@ -37,12 +54,14 @@ public:
             const DockCore::AppInfo app{bundleID(word), word, QStringLiteral("/Applications/%1.app").arg(word)};
             tiles.append(DockCore::PropertyList{DockCore::DockTile::app(app).raw});
         }
+        const std::lock_guard guard(preferences.lock);
         preferences.stored.insert(QStringLiteral("persistent-apps"), DockCore::PropertyList{tiles});
     }
 
     /// The Dock as the preferences hold it, by word.
     QStringList dock() const {
         QStringList words;
+        const std::lock_guard guard(preferences.lock);
         const auto value = preferences.stored.constFind(QStringLiteral("persistent-apps"));
         if (value != preferences.stored.cend()) {
             for (const DockCore::DockTile& tile : DockCore::tilesFrom(*value))
@@ -51,11 +70,11 @@ public:
         return words;
     }
 
-    /// Changes of the Dock stop at its restart until the semaphore is released.
-    void holdRestarts(QSemaphore& gate) {
-        processes.answer = [&gate](const Processes::Run& run) -> std::optional<int> {
+    /// Changes of the Dock stop at its restart until the gate is open.
+    void holdRestarts(const Gate& gate) {
+        processes.answer = [semaphore = gate.m_semaphore](const Processes::Run& run) -> std::optional<int> {
             if (run.executable.endsWith(QStringLiteral("killall")))
-                gate.acquire();
+                semaphore->acquire();
             return 0;
         };
     }

@@ -4,7 +4,6 @@
 #include "Support/TimeZone.h"
 
 #include <QAbstractItemModelTester>
-#include <QSemaphore>
 #include <QTest>
 
 using namespace DockCore;
@@ -90,12 +89,12 @@ private Q_SLOTS:
     }
 
     void pressingTwiceWhileAChangeRunsChangesTheDockOnce() {
-        QSemaphore gate;
+        Gate gate;
         world->holdRestarts(gate);
         pane->apply();
         QVERIFY(model->isWorking());
         pane->apply();
-        gate.release(100);
+        gate.open();
         QVERIFY(waitForChange(*model));
         const auto restarts = std::count_if(world->processes.runs.begin(), world->processes.runs.end(),
                                             [](const auto& run) { return run.executable.endsWith(u"killall"_s); });

@@ -76,7 +76,7 @@ private Q_SLOTS:
 
     void theButtonCannotBePressedTwiceWhileAChangeRuns() {
         WindowWorld mac;
-        QSemaphore gate;
+        Gate gate;
         mac.world.holdRestarts(gate);
         pinActive(*mac.model, {u"Mail"_s, u"Terminal"_s});
         mac.open(Pane::dock);
@@ -88,7 +88,7 @@ private Q_SLOTS:
                 QVERIFY(!item->isEnabled());
         }
         QVERIFY(!mac.find(u"Apply to Dock"_s));
-        gate.release(100);
+        gate.open();
         QVERIFY(mac.waitForChange());
     }
 
