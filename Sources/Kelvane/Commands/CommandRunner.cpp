@@ -134,11 +134,15 @@ AppModel::Reply CommandRunner::replyWith(const Job& job) {
 }
 
 void CommandRunner::change(const Job& job) {
+    // The profile may have gone while the command waited.
+    const Found found = findProfile(m_model, job.command.profile);
+    if (const auto* mistake = std::get_if<CommandMistake>(&found))
+        return finish(mistaken(*mistake));
     m_model.captureOriginal();
     if (job.command.verb == Command::Verb::resume)
         return whenRefreshed([this, job] { m_model.resumeAuto(replyWith(job)); });
     if (job.command.profile)
-        m_model.activate(std::get<Profile>(findProfile(m_model, job.command.profile)).id, AppModel::Apply::no);
+        m_model.activate(std::get<Profile>(found).id, AppModel::Apply::no);
     whenRefreshed([this, job] { m_model.applyActive(AppModel::Voice::spoken, replyWith(job)); });
 }
 

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void commandsAreAnsweredInTheirOrder();
     void aRefreshOfTheWindowDoesNotLoseACommand();
     void aChangeOfTheUserIsWaitedFor();
+    void aProfileDeletedWhileACommandWaitsIsAMistake();
     void textForPeopleHasColoursOnlyOnATerminal();
 
 private:
@@ -242,15 +243,33 @@ void CommandRunnerTest::aRefreshOfTheWindowDoesNotLoseACommand() {
 
 void CommandRunnerTest::aChangeOfTheUserIsWaitedFor() {
     QVERIFY(refreshAndWait(*model));
-    QSemaphore gate;
+    Gate gate;
     world->holdRestarts(gate);
     model->applyActive(AppModel::Voice::spoken);
     std::optional<Answer> answer;
     runner->run({.verb = Command::Verb::restore}, Colour::none, [&answer](const Answer& result) { answer = result; });
     QVERIFY(!answer);
-    gate.release(6);
+    gate.open();
     QTRY_VERIFY_WITH_TIMEOUT(answer, 10000);
     QCOMPARE(answer->output, u"Dock restored to “Before Work”.\n"_s);
+}
+
+void CommandRunnerTest::aProfileDeletedWhileACommandWaitsIsAMistake() {
+    QVERIFY(refreshAndWait(*model));
+    Gate gate;
+    world->holdRestarts(gate);
+    model->applyActive(AppModel::Voice::spoken);
+    const QString other = uuidString(model->profiles()[1].id);
+    std::optional<Answer> answer;
+    runner->run({.verb = Command::Verb::apply, .profile = other}, Colour::none,
+                [&answer](const Answer& result) { answer = result; });
+    model->removeProfile(model->profiles()[1].id);
+    QVERIFY(!answer);
+    gate.open();
+    QTRY_VERIFY_WITH_TIMEOUT(answer, 10000);
+    QCOMPARE(answer->status, int(Answer::mistaken));
+    QVERIFY(answer->error.startsWith(u"There is no profile “%1”; expected one of "_s.arg(other)));
+    QCOMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
 }
 
 void CommandRunnerTest::textForPeopleHasColoursOnlyOnATerminal() {
