@@ -10,6 +10,8 @@
 #include "Kelvane/Ports/Workspace.h"
 #include "Kelvane/UsageTracker.h"
 
+#include <QSignalBlocker>
+
 #include <algorithm>
 #include <utility>
 
@@ -37,6 +39,10 @@ AppModel::AppModel(Workspace* workspace, LoginItem* loginItem)
 AppModel::~AppModel() {
     m_isClosing = true;
     m_pool.waitForDone();
+    if (!m_unrecorded)
+        return;
+    const QSignalBlocker nobodyListens(this);
+    m_unrecorded();
 }
 
 UsageTracker& AppModel::tracker() {
@@ -234,14 +240,15 @@ void AppModel::runDockChange(std::function<void()> work, std::function<QString()
         std::optional<QString> failure;
         try {
             work();
+            m_unrecorded = done;
         } catch (const Error& error) {
             failure = error.description();
         }
         QMetaObject::invokeMethod(
             this,
-            [this, failure, done, voice, reply] {
-                const Outcome outcome =
-                    failure ? Outcome{.text = *failure, .isError = true} : Outcome{.text = done(), .changed = true};
+            [this, failure, voice, reply] {
+                const Outcome outcome = failure ? Outcome{.text = *failure, .isError = true}
+                                                : Outcome{.text = std::exchange(m_unrecorded, {})(), .changed = true};
                 // A failed change is worth a word even when nobody asked for it.
                 conclude(outcome, failure ? Voice::spoken : voice, {});
                 m_isWorking = false;

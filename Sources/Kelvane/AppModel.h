@@ -55,7 +55,7 @@ class AppModel : public QObject {
 public:
     /// Both ports may be null where there is no desktop: nothing is tracked then, and updates wait for nobody.
     AppModel(Workspace* workspace, LoginItem* loginItem);
-    /// Waits for running background work.
+    /// Waits for running background work and records what a change of the Dock did; nobody is answered any more.
     ~AppModel() override;
 
     // State, with a signal for each change.
@@ -144,7 +144,7 @@ Q_SIGNALS:
 
 private:
     /// `work` runs in the background and may throw an Error; `done` runs afterwards on the main thread when it did not,
-    /// and gives the text to answer with.
+    /// records what was done and gives the text to answer with.
     void runDockChange(std::function<void()> work, std::function<QString()> done, Voice voice, Reply reply);
     void readCurrent();
     void detectManualChange();
@@ -179,6 +179,8 @@ private:
     /// When the Dock was last applied or confirmed by this process, on the clock that nobody sets.
     std::optional<std::chrono::nanoseconds> m_appliedElapsed;
     qint64 m_refreshGeneration = 0;
+    /// How to record what the last change of the Dock did, from its end in the background until that has happened.
+    std::function<QString()> m_unrecorded;
     /// Set when the model goes, so that a background scan under way is not finished for nobody.
     std::atomic<bool> m_isClosing = false;
     QThreadPool m_pool;

@@ -60,6 +60,8 @@ private Q_SLOTS:
     void aRestoreWithUpdatesOffLeavesNoPauseBehind();
     void aManualApplyEndsThePause();
     void aCheckDuringAChangeDoesNotOverlapIt();
+    void anApplyThatOutlastsTheModelIsRecorded();
+    void aRestoreThatOutlastsTheModelIsRecorded();
     void aClockThatJumpsMakesNothingDue_data();
     void aClockThatJumpsMakesNothingDue();
     void theCheckComesEveryTwoMinutesAndNotAtTheStart();
@@ -423,6 +425,36 @@ void AutoUpdateTest::aCheckDuringAChangeDoesNotOverlapIt() {
     QVERIFY(waitForChange(*model));
     QCOMPARE(dock(), QStringList({u"c"_s, u"a"_s}));
     QCOMPARE(model->snapshots().size(), 1);
+}
+
+void AutoUpdateTest::anApplyThatOutlastsTheModelIsRecorded() {
+    startWith(seasoned(world->clock.now()));
+    Gate gate;
+    world->holdRestarts(gate);
+    bool isAnswered = false;
+    model->applyActive(AppModel::Voice::spoken, [&isAnswered](const Outcome&) { isAnswered = true; });
+    QTRY_COMPARE(dock(), QStringList({u"c"_s, u"a"_s}));
+    gate.open();
+    model.reset();
+    QVERIFY(!isAnswered);
+    model.emplace(&*workspace, nullptr);
+    QCOMPARE(model->settings().lastAppliedSignature, ModelWorld::bundleIDs({u"c"_s, u"a"_s}));
+    QVERIFY(refreshAndWait(*model));
+    QVERIFY(!model->settings().autoPaused);
+}
+
+void AutoUpdateTest::aRestoreThatOutlastsTheModelIsRecorded() {
+    startWith(seasoned(world->clock.now()));
+    QVERIFY(check());
+    Gate gate;
+    world->holdRestarts(gate);
+    model->restorePrevious();
+    QTRY_COMPARE(dock(), QStringList({u"a"_s, u"b"_s}));
+    gate.open();
+    model.reset();
+    model.emplace(&*workspace, nullptr);
+    QVERIFY(model->settings().autoPaused);
+    QVERIFY(!model->settings().lastAppliedSignature);
 }
 
 void AutoUpdateTest::aClockThatJumpsMakesNothingDue_data() {
