@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <chrono>
+#include <mutex>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -30,6 +31,13 @@ constexpr auto goingDown = 600ms;
 constexpr auto betweenProbes = 200ms;
 /// The new process loads its preferences and possibly writes them before they can be read back.
 constexpr auto settling = 1200ms;
+
+/// Held from the first value that is set until all are saved: a reader's `synchronize` in between would save them and
+/// be told of a refusal in the writer's place.
+std::mutex& preferencesLock() {
+    static std::mutex lock;
+    return lock;
+}
 
 QString sentence(DockError::Kind kind) {
     return kind == DockError::Kind::writeFailed ? u"macOS refused to save the Dock settings."_s
@@ -92,12 +100,15 @@ std::optional<QString> DockStore::dryRunFile() {
 }
 
 void DockStore::seedDryRun(const QString& path) {
-    Preferences& preferences = Platform::current().preferences;
-    preferences.synchronize();
     PropertyList::Dictionary contents;
-    for (const QString& key : snapshotKeys()) {
-        if (const auto value = preferences.copyValue(key))
-            contents.insert(key, *value);
+    {
+        const std::lock_guard guard(preferencesLock());
+        Preferences& preferences = Platform::current().preferences;
+        preferences.synchronize();
+        for (const QString& key : snapshotKeys()) {
+            if (const auto value = preferences.copyValue(key))
+                contents.insert(key, *value);
+        }
     }
     try {
         save(contents, path);
@@ -109,6 +120,7 @@ void DockStore::seedDryRun(const QString& path) {
 std::optional<PropertyList> DockStore::value(const QString& key) {
     if (const auto path = dryRunFile())
         return valueIn(dryRunContents(*path), key);
+    const std::lock_guard guard(preferencesLock());
     Preferences& preferences = Platform::current().preferences;
     preferences.synchronize();
     return preferences.copyValue(key);
@@ -159,6 +171,7 @@ void DockStore::set(const DockChanges& changes) {
         setDryRun(changes, *path);
         return;
     }
+    const std::lock_guard guard(preferencesLock());
     Preferences& preferences = Platform::current().preferences;
     for (auto change = changes.cbegin(); change != changes.cend(); ++change)
         preferences.setValue(change.key(), change.value());

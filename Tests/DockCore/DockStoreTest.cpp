@@ -6,8 +6,11 @@
 
 #include <QtTest>
 
+#include <atomic>
 #include <chrono>
 #include <memory>
+#include <semaphore>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -83,6 +86,7 @@ private Q_SLOTS:
     void writesAgainWhileTheDockReverts();
     void refusedWriteThrowsAtOnce();
     void refusedSecondWriteThrows();
+    void aReaderBetweenSettingAndSavingDoesNotSwallowTheRefusal();
     void mismatchAfterWritingThrowsWithoutARestart();
     void restartsWhetherOrNotKillallWorks();
     void knowsWhetherTheDockRuns_data();
@@ -95,6 +99,7 @@ private Q_SLOTS:
     void dryRunWithoutANameNeverReachesTheDock();
     void firstDryRunReadSeedsTheFile();
     void dryRunCaptureSeedsTheFile();
+    void seedingTakesFreshValues();
     void dryRunWritesChangeTheFileOnly();
     void dryRunMismatchThrows();
     void dryRunRestoreDeletesWhatTheStateLacks();
@@ -278,6 +283,29 @@ void DockStoreTest::refusedSecondWriteThrows() {
     QCOMPARE(restarts(), 1);
 }
 
+void DockStoreTest::aReaderBetweenSettingAndSavingDoesNotSwallowTheRefusal() {
+    m_world->preferences.refusesToSave = true;
+    m_world->preferences.afterSet = [] {
+        for (int turn = 0; turn < 1000; ++turn)
+            std::this_thread::yield();
+    };
+    std::binary_semaphore reads(0);
+    std::atomic<bool> isOver = false;
+    std::thread reader([&] {
+        DockStore::currentTiles();
+        reads.release();
+        while (!isOver)
+            DockStore::currentTiles();
+    });
+    const auto end = qScopeGuard([&] {
+        isOver = true;
+        reader.join();
+    });
+    reads.acquire();
+    for (int round = 0; round < 100; ++round)
+        QCOMPARE(thrownBy([] { DockStore::set({{appsKey, apps(u"b"_s)}}); }), DockError::Kind::writeFailed);
+}
+
 void DockStoreTest::mismatchAfterWritingThrowsWithoutARestart() {
     const auto thrown = thrownBy([] { DockStore::apply({{appsKey, apps(u"a b"_s)}}, {u"b"_s, u"a"_s}); });
     QCOMPARE(thrown, DockError::Kind::verifyFailed);
@@ -389,6 +417,12 @@ void DockStoreTest::dryRunCaptureSeedsTheFile() {
     startDryRun(dryRunPath());
     QCOMPARE(DockStore::capture().keys(), QStringList({appsKey, othersKey, recentsKey}));
     QVERIFY(QFile::exists(dryRunPath()));
+}
+
+void DockStoreTest::seedingTakesFreshValues() {
+    const int before = m_world->preferences.synchronizations;
+    DockStore::seedDryRun(dryRunPath());
+    QCOMPARE(m_world->preferences.synchronizations, before + 1);
 }
 
 void DockStoreTest::dryRunWritesChangeTheFileOnly() {

@@ -37,8 +37,12 @@ std::optional<DockCore::PropertyList> Preferences::copyValue(const QString& key)
 }
 
 void Preferences::setValue(const QString& key, const std::optional<DockCore::PropertyList>& value) {
-    const std::lock_guard guard(lock);
-    m_pending.insert(key, value);
+    {
+        const std::lock_guard guard(lock);
+        m_pending.insert(key, value);
+    }
+    if (afterSet)
+        afterSet();
 }
 
 std::optional<int> Processes::run(const QString& executable, const QStringList& arguments) {

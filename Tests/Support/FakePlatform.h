@@ -29,6 +29,8 @@ public:
     /// What the domain holds.
     DockCore::PropertyList::Dictionary stored;
     bool refusesToSave = false;
+    /// Happens between a value's being set and whatever the one who set it does next.
+    std::function<void()> afterSet;
     int synchronizations = 0;
     int saves = 0;
 
