@@ -5,6 +5,7 @@
 #include "DockCore/UsageStore.h"
 
 #include <QHash>
+#include <QMap>
 
 #include <algorithm>
 #include <vector>
@@ -23,9 +24,10 @@ struct Entry {
     QByteArray name;
 };
 
-/// In the order of their identifiers, so that what ties in everything still comes out the same every time.
-QList<AppInfo> candidates(const QHash<QString, UsageTotals>& totals, AppCatalog& catalog, double weight) {
-    QHash<QString, AppInfo> found;
+/// By the identifier they are counted under, which need not be spelt like the bundle's own. The order of the map lets
+/// what ties in everything still come out the same every time.
+QMap<QString, AppInfo> candidates(const QHash<QString, UsageTotals>& totals, AppCatalog& catalog, double weight) {
+    QMap<QString, AppInfo> found;
     for (auto total = totals.cbegin(); total != totals.cend(); ++total) {
         if (const auto app = catalog.info(total.key()))
             found.insert(total.key(), *app);
@@ -38,10 +40,7 @@ QList<AppInfo> candidates(const QHash<QString, UsageTotals>& totals, AppCatalog&
                 found.insert(app.bundleID, app);
         }
     }
-    QList<AppInfo> apps = found.values();
-    std::sort(apps.begin(), apps.end(),
-              [](const AppInfo& left, const AppInfo& right) { return left.bundleID < right.bundleID; });
-    return apps;
+    return found;
 }
 } // namespace
 
@@ -56,10 +55,12 @@ QList<AppScore> Ranker::rank(const UsageStore& usage, UsageWindow window, AppCat
     const double weight = spotlight == Spotlight::include ? spotlightWeight(usage.trackedDays(window, now), window) : 0;
 
     std::vector<Entry> entries;
-    for (const AppInfo& app : candidates(totals, catalog, weight)) {
-        if (AppCatalog::ignored().contains(app.bundleID))
+    const QMap<QString, AppInfo> apps = candidates(totals, catalog, weight);
+    for (auto candidate = apps.cbegin(); candidate != apps.cend(); ++candidate) {
+        if (AppCatalog::ignored().contains(candidate.key()))
             continue;
-        const UsageTotals total = totals.value(app.bundleID);
+        const AppInfo& app = candidate.value();
+        const UsageTotals total = totals.value(candidate.key());
         const SpotlightUsage::Result opened =
             weight > 0 ? SpotlightUsage::lookup(app.path, window, now) : SpotlightUsage::Result();
         const double score = total.seconds / 60 * pointsAMinute +

@@ -215,6 +215,44 @@ private Q_SLOTS:
             QCOMPARE(ranking[i].app.bundleID, u"com.%1"_s.arg(i, 2, 10, QChar(u'0')));
     }
 
+    void oneApplicationUnderTwoSpellingsIsCountedUnderEach() {
+        const AppInfo mail = install(u"Mail"_s);
+        AppCatalog catalog;
+        m_world->bundles.capitals = Fakes::Bundles::Capitals::equal;
+        for (const auto& [bundleID, seconds] :
+             {std::pair(u"com.MAIL"_s, 60), {u"com.Mail"_s, 120}, {u"com.mail"_s, 120}})
+            m_usage->addSeconds(seconds, bundleID, {}, now());
+        const QList<AppScore> ranking = Ranker::rank(*m_usage, UsageWindow::week, catalog, Spotlight::exclude, now());
+        QList<double> seconds;
+        for (const AppScore& score : ranking) {
+            QCOMPARE(score.app, mail);
+            seconds.append(score.seconds);
+        }
+        QCOMPARE(seconds, QList<double>({120, 120, 60}));
+    }
+
+    void anIdentifierIsIgnoredAsItIsCounted() {
+        m_world->bundles.capitals = Fakes::Bundles::Capitals::equal;
+        const QString dock = u"/System/Library/CoreServices/Dock.app"_s;
+        m_world->bundles.add(dock, u"com.apple.Dock"_s, u"Dock"_s);
+        m_world->opened(dock, {now()});
+        m_usage->addSeconds(60, u"com.apple.dock"_s, {}, now());
+        QVERIFY(rank(UsageWindow::week, Spotlight::include).isEmpty());
+    }
+
+    void theCopyThatIsCountedStaysWhenAScanFindsAnother() {
+        const QString elsewhere = u"/Volumes/Disk/A.app"_s;
+        m_world->bundles.add(elsewhere, u"com.A"_s, u"A"_s);
+        AppCatalog catalog;
+        QVERIFY(catalog.isInstalled(u"com.A"_s));
+        opened(install(u"A"_s), 3);
+        m_usage->addSeconds(60, u"com.A"_s, {}, now());
+        const QList<AppScore> ranking = Ranker::rank(*m_usage, UsageWindow::week, catalog, Spotlight::include, now());
+        QCOMPARE(ranking.size(), 1);
+        QCOMPARE(ranking[0].app.path, elsewhere);
+        QCOMPARE(ranking[0].spotlightDays, 0);
+    }
+
     void theWindowsDiffer() {
         m_usage->addSeconds(600, install(u"Lately"_s).bundleID, {}, now());
         m_usage->addSeconds(6000, install(u"Before"_s).bundleID, {}, now().addDays(-20));

@@ -73,7 +73,8 @@ std::optional<QString> Bundles::path(const QString& identifier) {
     const std::lock_guard guard(m_lock);
     ++lookups[identifier];
     for (auto bundle = m_bundles.cbegin(); bundle != m_bundles.cend(); ++bundle) {
-        if (bundle->identifier == identifier)
+        const auto sensitivity = capitals == Capitals::equal ? Qt::CaseInsensitive : Qt::CaseSensitive;
+        if (bundle->identifier && bundle->identifier->compare(identifier, sensitivity) == 0)
             return bundle.key();
     }
     return std::nullopt;

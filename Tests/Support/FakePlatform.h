@@ -69,6 +69,9 @@ public:
     QMap<QString, int> reads;
     QMap<QString, int> lookups;
     QStringList remembered;
+    /// Whether an identifier is found that is capitalised otherwise.
+    enum class Capitals { distinct, equal };
+    Capitals capitals = Capitals::distinct;
 
 private:
     struct Bundle {
