@@ -61,8 +61,8 @@ Stopwatch::Pair inTurns(int runs, const Measured& measured, const Floor& floor) 
     return {.measured = Stopwatch::middle(measurements), .floor = Stopwatch::middle(floors)};
 }
 
-double number(const QString& work, const QString& subject) {
-    return Program::lines(windowProgram, {work, subject}).value(0).numbers.value(0);
+QList<double> numbers(const QString& work, const QString& subject) {
+    return Program::lines(windowProgram, {work, subject}).value(0).numbers;
 }
 
 } // namespace
@@ -72,9 +72,20 @@ Stopwatch::Pair Application::memory(int runs) {
         runs, [] { return memoryOf(u"kelvane"_s); }, [] { return memoryOf(u"kelvane-bench-application"_s); });
 }
 
-Stopwatch::Pair Application::firstFrame(int runs) {
-    return inTurns(
-        runs, [] { return number(u"first-frame"_s, kelvane); }, [] { return number(u"first-frame"_s, bare); });
+Application::Opening Application::opening(int runs) {
+    QList<double> filled;
+    QList<double> filledFloor;
+    const auto open = [](const QString& subject, QList<double>& filledTimes) {
+        const QList<double> times = numbers(u"first-frame"_s, subject);
+        filledTimes.append(times.value(1));
+        return times.value(0);
+    };
+    Opening opening;
+    opening.firstFrame = inTurns(
+        runs, [&] { return open(kelvane, filled); }, [&] { return open(bare, filledFloor); });
+    opening.filled = inTurns(
+        runs, [&filled] { return filled.takeFirst(); }, [&filledFloor] { return filledFloor.takeFirst(); });
+    return opening;
 }
 
 Stopwatch::Pair Application::memoryAfterReopening(int runs) {

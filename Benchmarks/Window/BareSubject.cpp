@@ -28,6 +28,8 @@ public:
         return *window;
     }
 
+    bool isFilled() override { return true; }
+
     QList<Step> steps() override {
         QList<Step> steps;
         // Another number of rows makes all of them anew.

@@ -5,7 +5,7 @@ import QtQuick
 Window {
     id: root
 
-    property int rows: 0
+    property int rows: 12
 
     width: 960
     height: 640

@@ -40,6 +40,11 @@ public:
         qFatal("the application has no window");
     }
 
+    bool isFilled() override {
+        const auto* content = window().findChild<QObject*>(u"content"_s);
+        return content != nullptr && !content->property("item").isNull();
+    }
+
     QList<Step> steps() override {
         fill();
         QList<Step> steps;

@@ -24,6 +24,8 @@ public:
     virtual void open() = 0;
     /// The window, once it is open.
     virtual QQuickWindow& window() = 0;
+    /// What the window shows has been made.
+    virtual bool isFilled() = 0;
     virtual QList<Step> steps() = 0;
 
     /// The real application on the real adapters, in the home that the environment names.

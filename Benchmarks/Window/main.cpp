@@ -11,6 +11,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -18,19 +19,20 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// From the wish for the window to its first frame.
+/// From the wish for the window to its first frame, and to the first one with its content.
 void firstFrame(Subject& subject) {
     const Clock::time_point start = Clock::now();
     subject.open();
     QEventLoop loop;
-    Clock::time_point end;
-    const auto shown = [&loop, &end] {
-        end = Clock::now();
-        loop.quit();
-    };
-    QObject::connect(&subject.window(), &QQuickWindow::frameSwapped, &loop, shown, Qt::SingleShotConnection);
+    std::vector<double> frames;
+    QObject::connect(&subject.window(), &QQuickWindow::frameSwapped, &loop, [&] {
+        frames.push_back(std::chrono::duration<double>(Clock::now() - start).count());
+        if (subject.isFilled()) {
+            loop.quit();
+        }
+    });
     loop.exec();
-    std::printf("first-frame %.6f\n", std::chrono::duration<double>(end - start).count());
+    std::printf("first-frame %.6f %.6f\n", frames.front(), frames.back());
 }
 
 void frames(Subject& subject) {

@@ -67,6 +67,9 @@ public:
         window.emplace(*model, desktop);
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(quick()));
+        // A new window is there before what it shows.
+        const auto* content = quick()->findChild<QQuickItem*>(QStringLiteral("content"));
+        QVERIFY(QTest::qWaitFor([content] { return !content->property("item").isNull(); }));
         // Fades and steps take a moment; a test acts when they are over, as a person does.
         QTest::qWait(300);
     }

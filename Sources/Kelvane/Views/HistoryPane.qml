@@ -12,7 +12,7 @@ Item {
 
     function ask(id: string) {
         root.askedId = id;
-        confirmation.open();
+        (confirmation.createObject(root) as Confirmation).open();
     }
 
     ListView {
@@ -48,11 +48,15 @@ Item {
         title: "No saved Docks yet"
         text: "Each change of your Dock is saved here first."
     }
-    Confirmation {
+    Component {
         id: confirmation
-        title: "Restore this Dock?"
-        text: "Your current Dock is saved first, so you can come back to it."
-        action: "Restore"
-        onAccepted: HistoryViewModel.restore(root.askedId)
+        Confirmation {
+            id: question
+            title: "Restore this Dock?"
+            text: "Your current Dock is saved first, so you can come back to it."
+            action: "Restore"
+            onAccepted: HistoryViewModel.restore(root.askedId)
+            onClosed: question.destroy()
+        }
     }
 }

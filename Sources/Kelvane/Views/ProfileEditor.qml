@@ -7,12 +7,18 @@ import Kelvane
 Item {
     id: root
 
+    property AppPicker picker: null
+
     function focusName() {
         scroll.contentY = 0;
         nameCard.focusName();
     }
+    function pick() {
+        root.picker = apps.createObject(root) as AppPicker;
+        root.picker.open();
+    }
     function askToDelete() {
-        confirmation.open();
+        (confirmation.createObject(root) as Confirmation).open();
     }
 
     Flickable {
@@ -48,7 +54,7 @@ Item {
                 ordered: true
                 onAddRequested: {
                     ProfilesViewModel.picker.openForPinned();
-                    picker.open();
+                    root.pick();
                 }
                 onRemoveRequested: row => ProfilesViewModel.editor.removePinned(row)
                 onMoveRequested: (from, to) => ProfilesViewModel.editor.move(from, to)
@@ -63,7 +69,7 @@ Item {
                 apps: ProfilesViewModel.editor.excluded
                 onAddRequested: {
                     ProfilesViewModel.picker.openForExcluded();
-                    picker.open();
+                    root.pick();
                 }
                 onRemoveRequested: row => ProfilesViewModel.editor.removeExcluded(row)
             }
@@ -83,18 +89,27 @@ Item {
     }
     Shortcut {
         sequence: "Ctrl+Z"
-        enabled: ProfilesViewModel.editor.undoText !== "" && !nameCard.editing && !picker.visible
+        enabled: ProfilesViewModel.editor.undoText !== "" && !nameCard.editing && root.picker === null
         onActivated: ProfilesViewModel.editor.undoRemove()
     }
-    AppPicker {
-        id: picker
+    // Most who come here open neither.
+    Component {
+        id: apps
+        AppPicker {
+            id: openPicker
+            onClosed: openPicker.destroy()
+        }
     }
-    Confirmation {
+    Component {
         id: confirmation
-        title: "Delete this profile?"
-        text: "Your Dock stays as it is."
-        action: "Delete"
-        destructive: true
-        onAccepted: ProfilesViewModel.removeSelected()
+        Confirmation {
+            id: question
+            title: "Delete this profile?"
+            text: "Your Dock stays as it is."
+            action: "Delete"
+            destructive: true
+            onAccepted: ProfilesViewModel.removeSelected()
+            onClosed: question.destroy()
+        }
     }
 }

@@ -7,6 +7,7 @@ FocusScope {
     id: root
 
     readonly property bool firstRun: App.firstRun
+    property bool opened: false
 
     Sidebar {
         id: sidebar
@@ -21,10 +22,16 @@ FocusScope {
 
         Loader {
             id: content
+            objectName: "content"
             anchors.fill: parent
             source: App.contentSource
+            // A new window is there before what it shows.
+            asynchronous: !root.opened
             focus: true
-            onLoaded: fade.restart()
+            onLoaded: {
+                root.opened = true;
+                fade.restart();
+            }
 
             NumberAnimation {
                 id: fade

@@ -95,7 +95,7 @@ Item {
                         SmallButton {
                             text: "Erase"
                             ink: Theme.danger
-                            onClicked: confirmation.open()
+                            onClicked: (confirmation.createObject(root) as Confirmation).open()
                         }
                     }
                 }
@@ -112,12 +112,16 @@ Item {
             }
         }
     }
-    Confirmation {
+    Component {
         id: confirmation
-        title: "Erase your usage history?"
-        text: "Profiles and saved Docks are kept. Suggestions fall back to macOS's own record of opened apps."
-        action: "Erase"
-        destructive: true
-        onAccepted: SettingsViewModel.eraseUsage()
+        Confirmation {
+            id: question
+            title: "Erase your usage history?"
+            text: "Profiles and saved Docks are kept. Suggestions fall back to macOS's own record of opened apps."
+            action: "Erase"
+            destructive: true
+            onAccepted: SettingsViewModel.eraseUsage()
+            onClosed: question.destroy()
+        }
     }
 }

@@ -9,13 +9,15 @@ BorderImage {
     required property int spread
     required property int drop
     required property int cornerRadius
+    // What has not been shown yet has no shadow to draw.
+    property bool wanted: true
 
     anchors.fill: parent
     anchors.margins: -root.spread
     anchors.topMargin: root.drop - root.spread
     anchors.bottomMargin: -root.drop - root.spread
     z: -1
-    source: "image://shadow/" + root.spread + "/" + root.cornerRadius + "/" + Theme.shadow
+    source: !root.wanted ? "" : "image://shadow/" + root.spread + "/" + root.cornerRadius + "/" + Theme.shadow
     border.left: 2 * root.spread + root.cornerRadius
     border.right: border.left
     border.top: border.left

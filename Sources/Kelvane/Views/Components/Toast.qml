@@ -60,6 +60,7 @@ Item {
             spread: 20
             drop: 6
             cornerRadius: 11
+            wanted: root.visible
         }
     }
     Symbol {
