@@ -124,7 +124,7 @@ class CommandLineBeside(ApplicationTest):
             client.connect(str(self.world.support / "socket"))
             client.sendall(b"GET / HTTP/1.1\r\n\r\n")
             answer = json.loads(client.makefile().readline())
-        self.assertEqual((answer["status"], answer["error"]), (2, "Kelvane was asked nothing it could read."))
+        self.assertEqual((answer["status"], answer["error"]), (2, "Kelvane was asked nothing it could read; expected a command."))
         self.assertEqual(self.world.run("status")[0], 0)
 
     def test_a_hundred_commands_from_four_processes(self):

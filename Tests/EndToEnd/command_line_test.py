@@ -40,9 +40,11 @@ class Contract(CommandLineTest):
     def test_every_mistake_is_status_2(self):
         for words in ([], ["sing"], ["status", "now"], ["apply", "Nobody"], ["plan", "Nobody"], ["auto"], ["auto", "soon"],
                       ["track", "maybe"], ["rank", "--window", "year"], ["restore", "--snapshot", "1"], ["status", "--x"],
-                      ["restore", "--snapshot"], ["status", "--original"], ["restore", "--original", "--snapshot", "1"]):
+                      ["restore", "--snapshot"], ["status", "--original"], ["restore", "--original", "--snapshot", "1"],
+                      ["rank", "--window"], ["status", "--window", "week"], ["status", "--json=1"], ["sing\nsong"],
+                      ["apply", "x\ny"], ["restore", "--snapshot", "x\ny"]):
             with self.subTest(words=words):
-                self.assertIn("expect", self.assert_fails(2, *words) + " expected")
+                self.assertIn("expect", self.assert_fails(2, *words))
 
     def test_apply_restore_and_original(self):
         before = self.world.dock()

@@ -56,6 +56,16 @@ std::optional<AutoUpdate> intervalNamed(const QString& name) {
     return std::nullopt;
 }
 
+/// An option that lacks its value, or has one that it does not take. The parser's own words would be two lines.
+QString misusedOption(const QStringList& arguments) {
+    const QString last = arguments.value(arguments.size() - 1);
+    if (last == u"--window" || last == u"-window")
+        return u"--window expects week or month after it."_s;
+    if (last == u"--snapshot" || last == u"-snapshot")
+        return u"--snapshot expects an id after it, one that “kelvanectl snapshots” lists."_s;
+    return u"--json and --original take no value; expected them alone."_s;
+}
+
 /// Fills in what only some commands take; gives what is wrong with it.
 std::optional<QString> readWords(Command& command, const Entry& entry, const QStringList& words) {
     if (words.size() > entry.words)
@@ -97,13 +107,21 @@ QString commandName(AutoUpdate interval) {
     Q_UNREACHABLE();
 }
 
+CommandMistake CommandMistake::inOneLine(QString sentence) {
+    for (QChar& character : sentence) {
+        if (character.category() == QChar::Other_Control)
+            character = u' ';
+    }
+    return {sentence.simplified()};
+}
+
 bool isRepeatable(const Command& command) {
     // Going back to the previous Dock twice goes back and forth.
     return command.verb != Command::Verb::restore || command.original || command.snapshot;
 }
 
 std::variant<Command, CommandMistake> parseCommand(const QStringList& arguments) {
-    const auto mistake = [](const QString& sentence) { return CommandMistake{sentence}; };
+    const auto mistake = CommandMistake::inOneLine;
     QCommandLineParser parser;
     const QCommandLineOption json(u"json"_s);
     const QCommandLineOption original(u"original"_s);
@@ -117,9 +135,7 @@ std::variant<Command, CommandMistake> parseCommand(const QStringList& arguments)
             u"There is no option “%1”; expected --json, --original, --snapshot ID, --window week|month, --help "
             u"or --version."_s.arg(parser.unknownOptionNames().constFirst()));
     if (!isUnderstood)
-        return mistake(parser.isSet(window) || parser.isSet(snapshot)
-                           ? parser.errorText()
-                           : u"An option is not complete: "_s + parser.errorText());
+        return mistake(misusedOption(arguments));
     QStringList words = parser.positionalArguments();
     if (words.isEmpty())
         return mistake(u"No command was given; expected one of %1."_s.arg(commandNames()));
@@ -131,12 +147,15 @@ std::variant<Command, CommandMistake> parseCommand(const QStringList& arguments)
     Command command{.verb = entry->verb, .json = parser.isSet(json)};
     if (const std::optional<QString> wrong = readWords(command, *entry, words))
         return mistake(*wrong);
-    if ((parser.isSet(original) || parser.isSet(snapshot)) && command.verb != Command::Verb::restore)
-        return mistake(u"--original and --snapshot belong to “restore”."_s);
+    for (const auto& [option, owner] : {std::pair(original, Command::Verb::restore),
+                                        {snapshot, Command::Verb::restore},
+                                        {window, Command::Verb::rank}}) {
+        if (parser.isSet(option) && command.verb != owner)
+            return mistake(u"“--%1” does not fit after “%2”; expected %3."_s.arg(option.names().constFirst(),
+                                                                                 entry->name, entry->expected));
+    }
     if (parser.isSet(original) && parser.isSet(snapshot))
         return mistake(u"“restore” expects --original or --snapshot ID, not both."_s);
-    if (parser.isSet(window) && command.verb != Command::Verb::rank)
-        return mistake(u"--window belongs to “rank”."_s);
     command.original = parser.isSet(original);
     if (parser.isSet(snapshot))
         command.snapshot = parser.value(snapshot);

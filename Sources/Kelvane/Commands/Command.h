@@ -32,6 +32,8 @@ struct Command {
 /// What was wrong with a command line, in one line that says what was expected.
 struct CommandMistake {
     QString sentence;
+    /// Keeps to one line, and quiet on a terminal, whatever characters are in the words that the sentence quotes.
+    static CommandMistake inOneLine(QString sentence);
     bool operator==(const CommandMistake&) const = default;
 };
 

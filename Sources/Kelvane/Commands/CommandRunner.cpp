@@ -29,12 +29,13 @@ Found findProfile(const AppModel& model, const std::optional<QString>& named) {
     if (matches.size() == 1)
         return matches.constFirst();
     if (matches.isEmpty())
-        return CommandMistake{u"There is no profile “%1”; expected one of %2."_s.arg(*named, names.join(u", "))};
+        return CommandMistake::inOneLine(
+            u"There is no profile “%1”; expected one of %2."_s.arg(*named, names.join(u", ")));
     QStringList ids;
     for (const Profile& profile : std::as_const(matches))
         ids.append(uuidString(profile.id));
-    return CommandMistake{
-        u"More than one profile is called “%1”; expected one of their ids: %2."_s.arg(*named, ids.join(u", "))};
+    return CommandMistake::inOneLine(
+        u"More than one profile is called “%1”; expected one of their ids: %2."_s.arg(*named, ids.join(u", ")));
 }
 
 Answer mistaken(const CommandMistake& mistake) {
@@ -157,8 +158,9 @@ void CommandRunner::restore(const Job& job) {
     if (job.command.original)
         return finish({.status = Answer::failed,
                        .error = u"The original Dock could not be saved, so there is none to restore."_s});
-    finish(mistaken({u"There is no saved Dock “%1”; expected an id that “kelvanectl snapshots” lists."_s.arg(
-        *job.command.snapshot)}));
+    finish(mistaken(CommandMistake::inOneLine(
+        u"There is no saved Dock “%1”; expected an id that “kelvanectl snapshots” lists."_s.arg(
+            *job.command.snapshot))));
 }
 
 void CommandRunner::adjust(const Job& job) {

@@ -32,7 +32,8 @@ void CommandServer::accept() {
         auto* deadline = new QTimer(socket);
         deadline->setSingleShot(true);
         connect(deadline, &QTimer::timeout, socket, [socket] {
-            answer(socket, {.status = Answer::mistaken, .error = u"Kelvane was asked nothing it could read."_s});
+            answer(socket, {.status = Answer::mistaken,
+                            .error = u"Kelvane was asked nothing it could read; expected a command."_s});
         });
         deadline->start(patience);
         read(socket);
@@ -47,7 +48,8 @@ void CommandServer::read(QLocalSocket* socket) {
     const std::optional<CommandRequest> request =
         socket->canReadLine() ? CommandRequest::fromLine(socket->readLine(longestRequest + 1)) : std::nullopt;
     if (!request)
-        return answer(socket, {.status = Answer::mistaken, .error = u"Kelvane was asked nothing it could read."_s});
+        return answer(socket, {.status = Answer::mistaken,
+                               .error = u"Kelvane was asked nothing it could read; expected a command."_s});
     if (request->kind == CommandRequest::Kind::showWindow) {
         answer(socket, {});
         Q_EMIT showRequested();

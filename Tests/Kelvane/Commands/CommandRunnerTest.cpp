@@ -155,6 +155,8 @@ void CommandRunnerTest::unknownThingsAreMistakes_data() {
     QTest::newRow("a profile to apply") << u"apply Nobody"_s;
     QTest::newRow("a profile by part of its name") << u"apply Wor"_s;
     QTest::newRow("a snapshot") << u"restore --snapshot 1"_s;
+    QTest::newRow("a profile of two lines") << u"apply x\ny"_s;
+    QTest::newRow("a snapshot of two lines") << u"restore --snapshot x\ny"_s;
 }
 
 void CommandRunnerTest::unknownThingsAreMistakes() {
@@ -162,6 +164,8 @@ void CommandRunnerTest::unknownThingsAreMistakes() {
     const Answer answer = run(line);
     QCOMPARE(answer.status, int(Answer::mistaken));
     QVERIFY2(answer.error.contains(u"expected"), qPrintable(answer.error));
+    for (const QChar character : answer.error)
+        QVERIFY(character.isPrint());
     QVERIFY(answer.output.isEmpty());
     QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
 }

@@ -117,7 +117,7 @@ void CommandServerTest::garbageIsRefusedWithASentence() {
     const std::optional<Answer> answer = answerFromLine(socket.readLine());
     QVERIFY(answer);
     QCOMPARE(answer->status, int(Answer::mistaken));
-    QCOMPARE(answer->error, u"Kelvane was asked nothing it could read."_s);
+    QCOMPARE(answer->error, u"Kelvane was asked nothing it could read; expected a command."_s);
 }
 
 void CommandServerTest::aClientThatLeavesEarlyDisturbsNobody() {
