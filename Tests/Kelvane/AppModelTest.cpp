@@ -1,6 +1,8 @@
 #include "Kelvane/AppModel.h"
 
 #include "DockCore/Paths.h"
+#include "Kelvane/UsageTracker.h"
+#include "Support/FakeWorkspace.h"
 #include "Support/ModelWorld.h"
 
 #include <QFile>
@@ -10,6 +12,7 @@ using namespace DockCore;
 using namespace Kelvane;
 using namespace Fakes;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class AppModelTest : public QObject {
     Q_OBJECT
@@ -43,13 +46,21 @@ private Q_SLOTS:
     void restoreWithUpdatesOffDoesNotPause();
     void restorePreviousWithoutOneSaysSo();
     void activatingAppliesOnlyWhenAsked();
-    void startSavesTheOriginalOnce();
+    void theOriginalIsSavedOnce();
+    void startingSavesTheOriginal();
+    void startingTakesTheTrackingFromTheSettings_data();
+    void startingTakesTheTrackingFromTheSettings();
+    void historyAndLoginItemAreKnownFromTheBeginning();
+    void restorePreviousGoesByTheDockAsItIsNow();
+    void applyGoesByTheDockAsItIsNow();
+    void aRestoreIsSaved();
     void aFailedOriginalIsTriedAgainAtTheNextStart();
     void newProfilesAreNumbered_data();
     void newProfilesAreNumbered();
     void duplicatesKeepOneName();
     void theOnlyProfileStays();
     void removingTheActiveProfileActivatesTheFirstRemaining();
+    void removingTheActiveProfileProposesTheNext();
     void updateIgnoresUnknownAndEqualProfiles();
     void updateOfAnotherProfileLeavesTheProposal();
     void aRefusedLoginItemShowsTheRealState();
@@ -270,7 +281,80 @@ void AppModelTest::activatingAppliesOnlyWhenAsked() {
     QTRY_COMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
 }
 
-void AppModelTest::startSavesTheOriginalOnce() {
+void AppModelTest::startingSavesTheOriginal() {
+    model->start();
+    QCOMPARE(model->snapshots().size(), 1);
+    QVERIFY(model->snapshots().constFirst().isOriginal);
+}
+
+void AppModelTest::startingTakesTheTrackingFromTheSettings_data() {
+    QTest::addColumn<bool>("isOn");
+    QTest::newRow("on") << true;
+    QTest::newRow("off") << false;
+}
+
+void AppModelTest::startingTakesTheTrackingFromTheSettings() {
+    QFETCH(const bool, isOn);
+    model->setTracking(isOn);
+    Fakes::Workspace workspace;
+    workspace.front = Fakes::Workspace::regular(ModelWorld::bundleID(u"d"_s), u"d"_s);
+    model.emplace(&workspace, nullptr);
+    model->start();
+    world->clock.advance(10s);
+    model->tracker().sample();
+    QCOMPARE(model->usage().trackingSince().has_value(), isOn);
+    model.reset();
+}
+
+void AppModelTest::historyAndLoginItemAreKnownFromTheBeginning() {
+    QVERIFY(!model->launchAtLogin());
+    model->captureOriginal();
+    login.enabled = true;
+    model.emplace(nullptr, &login);
+    QCOMPARE(model->snapshots().size(), 1);
+    QVERIFY(model->launchAtLogin());
+}
+
+void AppModelTest::restorePreviousGoesByTheDockAsItIsNow() {
+    model->captureOriginal();
+    QVERIFY(refreshAndWait(*model));
+    world->setDock({u"e"_s});
+    model->restorePrevious();
+    QVERIFY(model->isWorking());
+    QVERIFY(waitForChange(*model));
+    QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
+}
+
+void AppModelTest::applyGoesByTheDockAsItIsNow() {
+    QVERIFY(refreshAndWait(*model));
+    // Somebody puts c there, and what the Dock has of it stays as it is.
+    world->setDock({u"b"_s, u"c"_s});
+    const QList<DockTile> byHand = DockStore::currentTiles();
+    PropertyList::Array tiles;
+    for (const DockTile& tile : byHand) {
+        PropertyList::Dictionary raw = tile.raw;
+        raw.insert(u"mark"_s, {true});
+        tiles.append(PropertyList{raw});
+    }
+    world->preferences.stored.insert(u"persistent-apps"_s, PropertyList{tiles});
+    model->applyActive(AppModel::Voice::silent);
+    QVERIFY(waitForChange(*model));
+    QCOMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
+    QVERIFY(DockStore::currentTiles().constFirst().raw.contains(u"mark"_s));
+}
+
+void AppModelTest::aRestoreIsSaved() {
+    QVERIFY(refreshAndWait(*model));
+    model->applyActive(AppModel::Voice::spoken);
+    QVERIFY(waitForChange(*model));
+    QVERIFY(ProfileStore().settings.lastAppliedSignature);
+    model->restorePrevious();
+    QVERIFY(waitForChange(*model));
+    QVERIFY(ProfileStore().settings.autoPaused);
+    QVERIFY(!ProfileStore().settings.lastAppliedSignature);
+}
+
+void AppModelTest::theOriginalIsSavedOnce() {
     model->captureOriginal();
     QCOMPARE(model->snapshots().size(), 1);
     QVERIFY(model->snapshots().constFirst().isOriginal);
@@ -316,6 +400,8 @@ void AppModelTest::newProfilesAreNumbered() {
     QCOMPARE(added.adaptiveSlots, 8);
     QCOMPARE(added.window, UsageWindow::week);
     QVERIFY(added.separatePinned);
+    QVERIFY(added.pinned.isEmpty());
+    QVERIFY(added.excluded.isEmpty());
     QCOMPARE(model->profiles().constLast(), added);
     QCOMPARE(ProfileStore().profiles, model->profiles());
 }
@@ -328,6 +414,8 @@ void AppModelTest::duplicatesKeepOneName() {
     QCOMPARE(again.name, u"Work Copy"_s);
     QVERIFY(copy.id != first.id && copy.id != again.id);
     QCOMPARE(copy.pinned, first.pinned);
+    QCOMPARE(ProfileStore().profiles, model->profiles());
+    QCOMPARE(ProfileStore().profiles.constLast(), again);
 }
 
 void AppModelTest::theOnlyProfileStays() {
@@ -346,6 +434,17 @@ void AppModelTest::removingTheActiveProfileActivatesTheFirstRemaining() {
     model->removeProfile(before[3].id);
     QCOMPARE(model->settings().activeProfileID, before[1].id);
     QCOMPARE(ProfileStore().profiles.size(), before.size() - 2);
+}
+
+void AppModelTest::removingTheActiveProfileProposesTheNext() {
+    QVERIFY(refreshAndWait(*model));
+    Profile next = model->profiles()[1];
+    next.pinned = ModelWorld::bundleIDs({u"e"_s});
+    next.excluded.clear();
+    next.adaptiveSlots = 0;
+    model->update(next);
+    model->removeProfile(model->activeProfile().id);
+    QCOMPARE(layoutSignature(model->proposal()), ModelWorld::bundleIDs({u"e"_s}));
 }
 
 void AppModelTest::updateIgnoresUnknownAndEqualProfiles() {

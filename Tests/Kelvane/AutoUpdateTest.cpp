@@ -65,6 +65,7 @@ private Q_SLOTS:
     void aClockThatJumpsMakesNothingDue_data();
     void aClockThatJumpsMakesNothingDue();
     void theCheckComesEveryTwoMinutesAndNotAtTheStart();
+    void everyFiringOfTheTimerIsACheck();
 
 private:
     void startWith(const AppSettings& settings);
@@ -492,6 +493,17 @@ void AutoUpdateTest::theCheckComesEveryTwoMinutesAndNotAtTheStart() {
     QCOMPARE(timers.constFirst()->intervalAsDuration(), 120s);
     QVERIFY(timers.constFirst()->isActive());
     QVERIFY(timers.constFirst()->timerType() != Qt::PreciseTimer);
+}
+
+void AutoUpdateTest::everyFiringOfTheTimerIsACheck() {
+    startWith(seasoned(world->clock.now()));
+    workspace->idle = 3s;
+    model->start();
+    const auto timers = model->findChildren<QTimer*>(Qt::FindDirectChildrenOnly);
+    for (int firing = 1; firing <= 3; ++firing) {
+        QVERIFY(QMetaObject::invokeMethod(timers.constFirst(), "timeout"));
+        QCOMPARE(workspace->inputQuestions, firing);
+    }
 }
 
 QTEST_GUILESS_MAIN(AutoUpdateTest)
