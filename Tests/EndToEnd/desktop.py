@@ -20,9 +20,12 @@ def until(condition, seconds=20):
     """The first true answer of `condition`, asked again and again; fails when none comes in time."""
     deadline = time.monotonic() + seconds
     while True:
-        answer = condition()
-        if answer:
-            return answer
+        try:
+            if answer := condition():
+                return answer
+        except dbus.DBusException:
+            # What is on the screen may go while it is looked at.
+            pass
         if time.monotonic() > deadline:
             raise AssertionError("it did not come true: " + (condition.__doc__ or condition.__name__))
         time.sleep(0.05)

@@ -30,7 +30,7 @@ class ProfilesPane(ApplicationTest):
         """In the open picker, by its search field and the plus of the one application found."""
         window.keys("ctrl+a")
         window.type(word)
-        until(lambda: [row.name for row in window.all(role="list item", inside="Apps")] == [app])
+        until(lambda: [row.name for row in window.rows("Apps")] == [app])
         window.click("Add", about=app)
         window.find("Already added")
 
@@ -184,7 +184,7 @@ class ProfilesPane(ApplicationTest):
         for word, app in (("mail", "Mail"), ("che", "Chess"), ("note", "Notes")):
             window.keys("ctrl+a")
             window.type(word)
-            until(lambda: [row.name for row in window.all(role="list item", inside="Apps")] == [app])
+            until(lambda: [row.name for row in window.rows("Apps")] == [app])
             window.keys("Return")
             window.find("Already added")
         window.keys("Escape")

@@ -94,16 +94,16 @@ class Window:
         """Everything that shows and has these, in reading order; `about` is the description, `inside` the name of what it
         lies in."""
         def walk():
-            try:
-                shown = [control for root in self.roots() for control in root.all()]
-                if inside:
-                    shown = [control for around in shown if around.name == inside for control in around.all()]
-                return [[control for control in shown if name in (None, control.name) and role in (None, control.role)
-                         and about in (None, control.description)]]
-            except dbus.DBusException:
-                # Something went while it was looked at.
-                return None
+            shown = [control for root in self.roots() for control in root.all()]
+            if inside:
+                shown = [control for around in shown if around.name == inside for control in around.all()]
+            return [[control for control in shown if name in (None, control.name) and role in (None, control.role)
+                     and about in (None, control.description)]]
         return until(walk)[0]
+
+    def rows(self, inside):
+        """The rows of a list from the top down; the tree has them in the order in which they came."""
+        return sorted(self.all(role="list item", inside=inside), key=lambda row: row.place[1])
 
     def find(self, name, **more):
         """The first that has these."""
@@ -135,11 +135,7 @@ class Window:
         seen = []
 
         def rests():
-            for control in self.all(name, **more)[:1]:
-                try:
-                    seen.append(control.middle)
-                except dbus.DBusException:
-                    continue
+            seen.extend(control.middle for control in self.all(name, **more)[:1])
             return len(seen) > 1 and seen[-1] == seen[-2]
         until(rests)
         return seen[-1]
