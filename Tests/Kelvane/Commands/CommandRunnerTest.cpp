@@ -1,6 +1,8 @@
 #include "Kelvane/Commands/CommandRunner.h"
 
+#include "DockCore/Paths.h"
 #include "Support/ModelWorld.h"
+#include "Support/TimeZone.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -11,6 +13,7 @@ using namespace DockCore;
 using namespace Kelvane;
 using namespace Fakes;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 /// Commands are written as on a command line and run on a model whose active profile "Work" pins c and a, while the
 /// Dock holds a and b.
@@ -48,10 +51,23 @@ private Q_SLOTS:
     void commandsAreAnsweredInTheirOrder();
     void aRefreshOfTheWindowDoesNotLoseACommand();
     void aChangeOfTheUserIsWaitedFor();
+    void aChangeThatOvertakesACommandIsWaitedFor();
     void aProfileDeletedWhileACommandWaitsIsAMistake();
+    void aChangeRefreshesFirst_data();
+    void aChangeRefreshesFirst();
+    void rankTakesTheWindowOfTheActiveProfile();
+    void everyDocumentIsWhole_data();
+    void everyDocumentIsWhole();
+    void everyTextIsWhole_data();
+    void everyTextIsWhole();
     void textForPeopleHasColoursOnlyOnATerminal();
 
 private:
+    /// A dry run with ten minutes of c behind it and two days on which the computer saw d opened, after an apply.
+    void useAndApply();
+    /// Leaves e alone in the Dock.
+    static void changeByHand();
+    QString dryRunPath() const { return world->directory.filePath(u"dock.plist"_s); }
     Answer run(const QString& line, Colour colour = Colour::none) {
         const Command command = std::get<Command>(parseCommand(line.split(u' ')));
         std::optional<Answer> answer;
@@ -64,6 +80,7 @@ private:
     std::optional<ModelWorld> world;
     std::optional<AppModel> model;
     std::optional<CommandRunner> runner;
+    const Fakes::TimeZone zone = Fakes::TimeZone("Europe/Berlin");
 };
 
 void CommandRunnerTest::statusHoldsTheDocumentedKeys() {
@@ -256,6 +273,170 @@ void CommandRunnerTest::aChangeOfTheUserIsWaitedFor() {
     gate.open();
     QTRY_VERIFY_WITH_TIMEOUT(answer, 10000);
     QCOMPARE(answer->output, u"Dock restored to “Before Work”.\n"_s);
+}
+
+void CommandRunnerTest::aChangeThatOvertakesACommandIsWaitedFor() {
+    QVERIFY(refreshAndWait(*model));
+    Gate gate;
+    world->holdRestarts(gate);
+    std::optional<Answer> answer;
+    runner->run({.verb = Command::Verb::apply}, Colour::none, [&answer](const Answer& result) { answer = result; });
+    // The command is still ranking.
+    model->applyActive(AppModel::Voice::spoken);
+    QVERIFY(model->isWorking());
+    QVERIFY(refreshAndWait(*model));
+    QVERIFY(!answer);
+    gate.open();
+    QTRY_VERIFY_WITH_TIMEOUT(answer, 10000);
+    QCOMPARE(*answer, (Answer{.output = u"Your Dock already matches Work.\n"_s}));
+}
+
+void CommandRunnerTest::aChangeRefreshesFirst_data() {
+    QTest::addColumn<QString>("line");
+    QTest::newRow("apply") << u"apply"_s;
+    QTest::newRow("resume") << u"resume"_s;
+}
+
+void CommandRunnerTest::aChangeRefreshesFirst() {
+    QFETCH(const QString, line);
+    Profile mostUsed = model->activeProfile();
+    mostUsed.pinned.clear();
+    mostUsed.adaptiveSlots = 1;
+    model->update(mostUsed);
+    world->opened(u"/Applications/d.app"_s, {world->clock.now()});
+    QCOMPARE(run(line), (Answer{.output = u"Dock updated for Work.\n"_s}));
+    QCOMPARE(world->dock(), QStringList{u"d"_s});
+}
+
+void CommandRunnerTest::rankTakesTheWindowOfTheActiveProfile() {
+    Profile profile = model->activeProfile();
+    for (const UsageWindow window : allUsageWindows()) {
+        profile.window = window;
+        model->update(profile);
+        QCOMPARE(document(u"rank --json"_s).object()[u"window"].toInt(), days(window));
+    }
+}
+
+void CommandRunnerTest::useAndApply() {
+    qputenv("KELVANE_DRY_RUN", QFile::encodeName(dryRunPath()));
+    world->opened(u"/Applications/d.app"_s, {world->clock.now().addDays(-1), world->clock.now().addDays(-2)});
+    UsageStore usage(Paths::usage());
+    usage.addSeconds(600, ModelWorld::bundleID(u"c"_s), u"c"_s, world->clock.now());
+    usage.addActivation(ModelWorld::bundleID(u"c"_s), u"c"_s, world->clock.now());
+    usage.save();
+    runner.reset();
+    model.emplace(nullptr, nullptr);
+    pinActive(*model, {u"c"_s, u"a"_s});
+    runner.emplace(*model);
+    world->clock.advance(1min);
+    run(u"apply"_s);
+    run(u"track off"_s);
+}
+
+void CommandRunnerTest::changeByHand() {
+    DockStore::write({DockTile::app({ModelWorld::bundleID(u"e"_s), u"e"_s, u"/Applications/e.app"_s})});
+}
+
+void CommandRunnerTest::everyDocumentIsWhole_data() {
+    const QByteArray e = R"({"id": "app:org.example.e", "kind": "app", "bundleID": "org.example.e", "label": "e",
+        "url": "file:///Applications/e.app/", "signature": "org.example.e"})";
+    const QByteArray ca = R"({"id": "app:org.example.c", "kind": "app", "bundleID": "org.example.c", "label": "c",
+        "url": "file:///Applications/c.app/", "signature": "org.example.c"},
+        {"id": "app:org.example.a", "kind": "app", "bundleID": "org.example.a", "label": "a",
+        "url": "file:///Applications/a.app/", "signature": "org.example.a"})";
+    const QByteArray eToCA =
+        R"({"added": ["org.example.c", "org.example.a"], "removed": ["org.example.e"], "moved": []})";
+    const QByteArray nothing = R"({"added": [], "removed": [], "moved": []})";
+    const QByteArray profile = R"("activeProfile": "Work", "activeProfileID": "ID", "autoUpdate": 86400,
+        "trackingEnabled": false, "trackingSince": "2026-03-11T10:00:00Z", "lastApplied": "2026-03-11T10:01:00Z",
+        "dryRun": true)";
+
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<bool>("isChangedByHand");
+    QTest::addColumn<QByteArray>("expected");
+    QTest::newRow("status after an apply")
+        << u"status"_s << false
+        << "{" + profile + R"(, "autoPaused": false, "current": [)" + ca + R"(], "proposal": [)" + ca +
+               R"(], "diff": )" + nothing + R"(, "matches": true})";
+    QTest::newRow("status after a change by hand")
+        << u"status"_s << true
+        << "{" + profile + R"(, "autoPaused": true, "current": [)" + e + R"(], "proposal": [)" + ca + R"(], "diff": )" +
+               eToCA + R"(, "matches": false})";
+    QTest::newRow("plan after an apply") << u"plan"_s << false
+                                         << R"({"profile": "Work", "profileID": "ID", "tiles": [)" + ca +
+                                                R"(], "diff": )" + nothing + R"(, "matches": true})";
+    QTest::newRow("plan after a change by hand") << u"plan"_s << true
+                                                 << R"({"profile": "Work", "profileID": "ID", "tiles": [)" + ca +
+                                                        R"(], "diff": )" + eToCA + R"(, "matches": false})";
+    QTest::newRow("rank") << u"rank --window week"_s << false
+                          << QByteArray(R"({"window": 7, "trackedDays": 1, "ranking": [
+        {"bundleID": "org.example.d", "name": "d", "path": "/Applications/d.app", "seconds": 0, "activations": 0,
+         "trackedDays": 0, "spotlightDays": 2, "lastUsed": "2026-03-10T10:00:00Z", "score": 17.142857142857146},
+        {"bundleID": "org.example.c", "name": "c", "path": "/Applications/c.app", "seconds": 600, "activations": 1,
+         "trackedDays": 1, "spotlightDays": 0, "score": 12}]})");
+    QTest::newRow("apps") << u"apps"_s << false << QByteArray(R"([
+        {"bundleID": "org.example.a", "name": "a", "path": "/Applications/a.app"},
+        {"bundleID": "org.example.b", "name": "b", "path": "/Applications/b.app"},
+        {"bundleID": "org.example.c", "name": "c", "path": "/Applications/c.app"},
+        {"bundleID": "org.example.d", "name": "d", "path": "/Applications/d.app"},
+        {"bundleID": "org.example.e", "name": "e", "path": "/Applications/e.app"}])");
+    QTest::newRow("apply after an apply")
+        << u"apply"_s << false
+        << QByteArray(R"({"text": "Your Dock already matches Work.", "isError": false, "changed": false})");
+    QTest::newRow("restore")
+        << u"restore"_s << false
+        << QByteArray(R"({"text": "Dock restored to “Before Work”.", "isError": false, "changed": true})");
+}
+
+void CommandRunnerTest::everyDocumentIsWhole() {
+    QFETCH(const QString, line);
+    QFETCH(const bool, isChangedByHand);
+    QFETCH(QByteArray, expected);
+    useAndApply();
+    if (isChangedByHand)
+        changeByHand();
+    expected.replace("\"ID\"", '"' + uuidString(model->activeProfile().id).toLatin1() + '"');
+    const QJsonDocument document = QJsonDocument::fromJson(expected);
+    QVERIFY(!document.isNull());
+    QCOMPARE(QString::fromUtf8(QJsonDocument::fromJson(run(line + u" --json"_s).output.toUtf8()).toJson()),
+             QString::fromUtf8(document.toJson()));
+}
+
+void CommandRunnerTest::everyTextIsWhole_data() {
+    const QString plan = uR"(Suggested for Work: 2 apps
+  +  1  c
+  +  2  a
+
++ 2 added   − 1 leaving   ↔ 0 moved
+Leaving: e
+)"_s;
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("status") << u"status"_s << uR"(Active profile            Work
+Reorganize automatically  Once a day
+                          Paused: the Dock was changed outside Kelvane.
+Track app usage           off, since 11 Mar 2026, 11:00
+Last applied              11 Mar 2026, 11:01
+Dry run                   FILE
+
+Now: 1 app
+     1  e
+
+)"_s + plan;
+    QTest::newRow("plan") << u"plan"_s << plan;
+    QTest::newRow("rank") << u"rank --window week"_s << uR"(Last 7 days
+#  score  minutes  switches  days  opened  name
+1  17.1   0        0         0     2       d
+2  12.0   10       1         1     0       c
+)"_s;
+}
+
+void CommandRunnerTest::everyTextIsWhole() {
+    QFETCH(const QString, line);
+    QFETCH(QString, expected);
+    useAndApply();
+    changeByHand();
+    QCOMPARE(run(line), (Answer{.output = expected.replace(u"FILE"_s, dryRunPath())}));
 }
 
 void CommandRunnerTest::aProfileDeletedWhileACommandWaitsIsAMistake() {

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void pausedItemsComeAndGo();
     void switchingTheProfileAppliesIt();
     void reorganizeRefreshesFirst();
+    void resumeRefreshesFirst();
     void trackingIsToggled();
     void openingAndQuittingAreTheOwners();
 
@@ -163,6 +164,20 @@ void StatusMenuTest::reorganizeRefreshesFirst() {
     QVERIFY(model->isWorking());
     QVERIFY(waitForChange(*model));
     QCOMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
+}
+
+void StatusMenuTest::resumeRefreshesFirst() {
+    QVERIFY(refreshAndWait(*model));
+    model->applyActive(AppModel::Voice::spoken);
+    QVERIFY(waitForChange(*model));
+    world->setDock({u"e"_s});
+    QVERIFY(refreshAndWait(*model));
+    QSignalSpy refreshed(&*model, &AppModel::refreshed);
+    item(u"Resume and Reorganize"_s)->trigger();
+    QVERIFY(!model->isWorking());
+    QVERIFY(refreshed.wait());
+    QVERIFY(model->isWorking());
+    QVERIFY(waitForChange(*model));
 }
 
 void StatusMenuTest::trackingIsToggled() {
