@@ -5,10 +5,12 @@
 #include <QLocale>
 #include <QTest>
 
+#include <future>
 #include <thread>
 
 using namespace DockCore;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 QStringList names(const QList<AppInfo>& apps) {
@@ -17,6 +19,39 @@ QStringList names(const QList<AppInfo>& apps) {
         names.append(app.name);
     return names;
 }
+
+/// Bundles that take their time: while they are read, another thread asks the catalog for what it knows.
+class AskedMeanwhile : public Fakes::Bundles {
+public:
+    explicit AskedMeanwhile(AppCatalog& catalog)
+        : m_catalog(catalog) {}
+
+    std::optional<QString> identifier(const QString& path) override {
+        ask();
+        return Fakes::Bundles::identifier(path);
+    }
+    std::optional<QString> path(const QString& identifier) override {
+        ask();
+        return Fakes::Bundles::path(identifier);
+    }
+
+    bool isAsked = false;
+    int answers = 0;
+    bool isBlocked = false;
+
+private:
+    void ask() {
+        if (!isAsked || isBlocked)
+            return;
+        m_questions.push_back(std::async(std::launch::async, [this] { m_catalog.isInstalled(u"com.known"_s); }));
+        isBlocked = m_questions.back().wait_for(10s) != std::future_status::ready;
+        answers += isBlocked ? 0 : 1;
+    }
+
+    AppCatalog& m_catalog;
+    // A question that nobody answers must not keep whoever reads the bundle.
+    std::vector<std::future<void>> m_questions;
+};
 } // namespace
 
 class AppCatalogTest : public QObject {
@@ -245,6 +280,30 @@ private Q_SLOTS:
         QCOMPARE(AppCatalog::shared().installedApps().size(), 1);
         const Fakes::World other;
         QVERIFY(AppCatalog::shared().installedApps().isEmpty());
+    }
+
+    void whoAsksWhileFilesAreReadIsAnsweredAtOnce_data() {
+        QTest::addColumn<bool>("scans");
+        QTest::newRow("a scan") << true;
+        QTest::newRow("a look for one application") << false;
+    }
+    void whoAsksWhileFilesAreReadIsAnsweredAtOnce() {
+        QFETCH(const bool, scans);
+        AppCatalog catalog;
+        AskedMeanwhile bundles(catalog);
+        Fakes::Folders folders;
+        folders.listing[u"/Applications"_s] = {u"/Applications/A.app"_s};
+        bundles.add(u"/Applications/A.app"_s, u"com.a"_s, u"A"_s);
+        const PlatformScope scope(
+            {m_world->preferences, m_world->processes, bundles, folders, m_world->metadata, m_world->clock});
+        QVERIFY(!catalog.isInstalled(u"com.known"_s));
+        bundles.isAsked = true;
+        if (scans)
+            catalog.installedApps(AppCatalog::Scan::refresh);
+        else
+            QVERIFY(catalog.isInstalled(u"com.a"_s));
+        QVERIFY(bundles.answers > 0);
+        QVERIFY(!bundles.isBlocked);
     }
 
     void manyThreadsMayAskAtOnce() {

@@ -78,6 +78,18 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(expected).isDir());
     }
 
+    void anEmptyNameIsTheCurrentFolder() {
+        const Fakes::World world;
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(world.directory.path()));
+        qputenv("KELVANE_HOME", "");
+        const QString expected = QDir::currentPath();
+        const QString support = Paths::support();
+        QVERIFY(QDir::setCurrent(before));
+        QCOMPARE(support, expected);
+        QVERIFY(!QFileInfo::exists(expected + u"/Kelvane"_s));
+    }
+
     void theEnvironmentIsReadOnce() {
         const Fakes::World world;
         const QString first = world.directory.filePath(u"first"_s);

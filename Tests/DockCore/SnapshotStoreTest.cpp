@@ -87,6 +87,7 @@ private Q_SLOTS:
     void cleanup() { m_world.reset(); }
 
     void capturesTheDock();
+    void theDateIsReadWhenTheDockIsSaved();
     void namesSnapshotsByTimeAndChance();
     void writesPrivateFiles();
     void reopensWithWhatWasSaved();
@@ -166,6 +167,13 @@ void SnapshotStoreTest::capturesTheDock() {
     QVERIFY((store.state(snapshot) == Dictionary{{appsKey, apps(u"a _ b /d"_s)}, {recentsKey, {true}}}));
     QVERIFY(contentOf(path(snapshot.id + u".plist"_s)).startsWith("bplist00"));
     QVERIFY(m_world->processes.runs.isEmpty());
+}
+
+void SnapshotStoreTest::theDateIsReadWhenTheDockIsSaved() {
+    SnapshotStore store(folder());
+    m_world->clock.betweenLooks = std::chrono::seconds(1);
+    const Snapshot snapshot = store.capture(u"Before Work"_s, Mark::ordinary);
+    QCOMPARE(snapshot.date.toMSecsSinceEpoch() - snapshot.id.section(u'-', 0, 0).toLongLong(), 1000);
 }
 
 void SnapshotStoreTest::namesSnapshotsByTimeAndChance() {

@@ -103,7 +103,10 @@ std::optional<DockCore::Metadata::Item> Metadata::item(const QString& path) {
 
 QDateTime Clock::now() {
     const std::lock_guard guard(m_lock);
-    return m_wall;
+    const QDateTime shown = m_wall;
+    m_wall = m_wall.addMSecs(betweenLooks.count());
+    m_elapsed += betweenLooks;
+    return shown;
 }
 
 std::chrono::nanoseconds Clock::elapsed() {

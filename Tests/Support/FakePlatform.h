@@ -118,6 +118,8 @@ public:
     void set(const QDateTime& wall);
 
     QList<std::chrono::milliseconds> sleeps;
+    /// How much time passes from one look at the time of day to the next.
+    std::chrono::milliseconds betweenLooks = std::chrono::milliseconds(0);
 
 private:
     std::mutex m_lock;
