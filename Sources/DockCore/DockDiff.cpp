@@ -8,15 +8,6 @@ namespace DockCore {
 
 namespace {
 
-QStringList identifiers(const QList<DockTile>& tiles) {
-    QStringList result;
-    for (const DockTile& tile : tiles) {
-        if (tile.bundleID)
-            result.append(*tile.bundleID);
-    }
-    return result;
-}
-
 enum class Membership { inSet, notInSet };
 
 QStringList filtered(const QStringList& list, const QSet<QString>& set, Membership wanted) {
@@ -31,8 +22,8 @@ QStringList filtered(const QStringList& list, const QSet<QString>& set, Membersh
 } // namespace
 
 DockDiff::DockDiff(const QList<DockTile>& from, const QList<DockTile>& to) {
-    const QStringList oldList = identifiers(from);
-    const QStringList newList = identifiers(to);
+    const QStringList oldList = bundleIDs(from);
+    const QStringList newList = bundleIDs(to);
     const QSet<QString> oldSet(oldList.cbegin(), oldList.cend());
     const QSet<QString> newSet(newList.cbegin(), newList.cend());
     added = filtered(newList, oldSet, Membership::notInSet);

@@ -139,4 +139,13 @@ QStringList layoutSignature(const QList<DockTile>& tiles) {
     return signatures;
 }
 
+QStringList bundleIDs(const QList<DockTile>& tiles) {
+    QStringList result;
+    for (const DockTile& tile : tiles) {
+        if (tile.bundleID)
+            result.append(*tile.bundleID);
+    }
+    return result;
+}
+
 } // namespace DockCore

@@ -49,4 +49,7 @@ QList<DockTile> tilesFrom(const std::optional<PropertyList>& persistentApps);
 /// One signature a tile, in order. Two lists are the same Dock exactly when these are equal.
 QStringList layoutSignature(const QList<DockTile>& tiles);
 
+/// The identifiers of the tiles that have one, in order.
+QStringList bundleIDs(const QList<DockTile>& tiles);
+
 } // namespace DockCore

@@ -36,15 +36,6 @@ bool isFileName(const QString& id) {
     return !id.isEmpty() && !id.startsWith(u'.') && !id.contains(u'/') && !id.contains(QChar::Null);
 }
 
-QStringList bundleIDs(const QList<DockTile>& tiles) {
-    QStringList result;
-    for (const DockTile& tile : tiles) {
-        if (tile.bundleID)
-            result.append(*tile.bundleID);
-    }
-    return result;
-}
-
 QList<Snapshot> readIndex(const QString& path) {
     const auto json = JSONFile::read(path);
     if (!json || !json->isArray())

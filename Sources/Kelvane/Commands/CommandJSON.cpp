@@ -73,14 +73,12 @@ QJsonObject plan(const AppModel& model, const Profile& profile) {
 }
 
 QJsonObject score(const AppScore& score) {
-    QJsonObject object{{u"bundleID"_s, score.app.bundleID},
-                       {u"name"_s, score.app.name},
-                       {u"path"_s, score.app.path},
-                       {u"seconds"_s, score.seconds},
-                       {u"activations"_s, score.activations},
-                       {u"trackedDays"_s, score.trackedDays},
-                       {u"spotlightDays"_s, score.spotlightDays},
-                       {u"score"_s, score.score}};
+    QJsonObject object = score.app.toJson().toObject();
+    object[u"seconds"] = score.seconds;
+    object[u"activations"] = score.activations;
+    object[u"trackedDays"] = score.trackedDays;
+    object[u"spotlightDays"] = score.spotlightDays;
+    object[u"score"] = score.score;
     if (score.lastUsed)
         object[u"lastUsed"] = JSONFile::dateString(*score.lastUsed);
     return object;
@@ -118,9 +116,7 @@ QString describe(const AppModel& model, const Command& command, const Profile& p
         return text(
             QJsonDocument(array(model.snapshots(), [](const Snapshot& snapshot) { return snapshot.toJson(); })));
     case Command::Verb::apps:
-        return text(QJsonDocument(array(model.installed(), [](const AppInfo& app) {
-            return QJsonObject{{u"bundleID"_s, app.bundleID}, {u"name"_s, app.name}, {u"path"_s, app.path}};
-        })));
+        return text(QJsonDocument(array(model.installed(), [](const AppInfo& app) { return app.toJson(); })));
     default:
         return text(QJsonDocument(status(model)));
     }

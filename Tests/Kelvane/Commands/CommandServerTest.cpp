@@ -2,7 +2,6 @@
 
 #include "Kelvane/Commands/CommandClient.h"
 #include "Kelvane/Commands/CommandMessage.h"
-#include "Kelvane/Commands/InstanceLock.h"
 #include "Support/ModelWorld.h"
 
 #include <QDir>
@@ -49,8 +48,6 @@ private Q_SLOTS:
     void messagesReadBackEqual();
     void aLongSupportFolderHasAShortSocket();
     void theSocketFollowsFromTheSupportFolder();
-    void theLockIsHeldByOneAtATime();
-    void aFolderThatTakesNoLockIsUnavailable();
 
 private:
     using Reply = std::variant<Answer, CommandClient::Silence>;
@@ -183,23 +180,6 @@ void CommandServerTest::theSocketFollowsFromTheSupportFolder() {
     QVERIFY(QFile::link(plain, directory.path() + u"/link"_s));
     QCOMPARE(commandSocketPath(directory.path() + u"/link"_s), commandSocketPath(plain));
     QCOMPARE(commandSocketPath(plain + u"/"_s), commandSocketPath(plain));
-}
-
-void CommandServerTest::theLockIsHeldByOneAtATime() {
-    InstanceLock first(directory.path());
-    QCOMPARE(first.tryAcquire(), InstanceLock::State::acquired);
-    {
-        InstanceLock second(directory.path());
-        QCOMPARE(second.tryAcquire(), InstanceLock::State::busy);
-        first.release();
-        QCOMPARE(second.tryAcquire(), InstanceLock::State::acquired);
-    }
-    QCOMPARE(first.tryAcquire(), InstanceLock::State::acquired);
-}
-
-void CommandServerTest::aFolderThatTakesNoLockIsUnavailable() {
-    InstanceLock lock(directory.path() + u"/nowhere"_s);
-    QCOMPARE(lock.tryAcquire(), InstanceLock::State::unavailable);
 }
 
 QTEST_GUILESS_MAIN(CommandServerTest)
