@@ -5,6 +5,8 @@
 #include "Kelvane/AppModel.h"
 #include "Kelvane/ViewModels/UsageText.h"
 
+#include <algorithm>
+
 using namespace DockCore;
 using namespace Qt::StringLiterals;
 
@@ -38,6 +40,11 @@ void UsageViewModel::setWindowIndex(int index) {
 
 QString UsageViewModel::subtitle() const {
     return UsageText::subtitle(m_model.usage().trackingSince());
+}
+
+bool UsageViewModel::isEmpty() const {
+    return std::ranges::all_of(allUsageWindows(),
+                               [this](UsageWindow window) { return m_model.rankings().value(window).isEmpty(); });
 }
 
 QString UsageViewModel::total() const {

@@ -36,7 +36,8 @@ public:
     int windowIndex() const;
     void setWindowIndex(int index);
     QString subtitle() const;
-    bool isEmpty() const { return m_ranking.rowCount() == 0; }
+    /// Whether no window has anything to rank; one that has is reached by its choice.
+    bool isEmpty() const;
     QString total() const;
     QString totalCaption() const;
     RankingModel* ranking() { return &m_ranking; }

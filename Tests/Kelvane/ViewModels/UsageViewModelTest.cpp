@@ -48,6 +48,15 @@ private Q_SLOTS:
         QCOMPARE(pane->windowIndex(), 1);
     }
 
+    void anEmptyWeekIsNotNoUsage() {
+        track(u"b"_s, 3600, 10);
+        open();
+        QCOMPARE(ranked(), QString());
+        QVERIFY(!pane->isEmpty());
+        pane->setWindowIndex(1);
+        QCOMPARE(ranked(), u"1 b 1h 0m active · 1 of 30 days"_s);
+    }
+
     void theWindowChosenHereChangesNoProfile() {
         open();
         const QList<Profile> before = model->profiles();
