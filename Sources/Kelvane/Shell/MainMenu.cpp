@@ -9,16 +9,28 @@ using namespace Qt::StringLiterals;
 namespace Kelvane {
 
 namespace {
-/// Text fields of every kind offer these as invokable functions of the same name.
-void tellFocus(const char* function) {
-    if (QObject* focus = QGuiApplication::focusObject())
-        QMetaObject::invokeMethod(focus, function);
+/// What carries out a command of the Edit menu: the field with the keys, or the nearest of what it lies in. Text fields
+/// of every kind, and whatever else can, offer these as invokable functions of the same name; what says that it cannot
+/// at the moment, as with "canUndo", is passed over.
+QObject* target(const QByteArray& function) {
+    const QByteArray permission = "can" + function.left(1).toUpper() + function.mid(1);
+    for (QObject* object = QGuiApplication::focusObject(); object != nullptr;
+         object = object->property("parent").value<QObject*>()) {
+        const QVariant isPossible = object->property(permission.constData());
+        if (object->metaObject()->indexOfMethod(function + "()") >= 0 && (!isPossible.isValid() || isPossible.toBool()))
+            return object;
+    }
+    return nullptr;
 }
 
 void add(QMenu& menu, const QString& title, const QKeySequence& key, const char* function) {
     QAction* action = menu.addAction(title, key);
     action->setMenuRole(QAction::NoRole);
-    QObject::connect(action, &QAction::triggered, [function] { tellFocus(function); });
+    action->setData(QByteArray(function));
+    QObject::connect(action, &QAction::triggered, [function] {
+        if (QObject* object = target(function))
+            QMetaObject::invokeMethod(object, function);
+    });
 }
 } // namespace
 
@@ -86,7 +98,9 @@ bool MainMenu::eventFilter(QObject* watched, QEvent* event) {
     for (const QMenu* menu : menus) {
         const QList<QAction*> actions = menu->actions();
         for (QAction* action : actions) {
-            if (action->shortcut() == pressed && action->isEnabled()) {
+            const QByteArray function = action->data().toByteArray();
+            const bool hasTarget = function.isEmpty() || target(function) != nullptr;
+            if (action->shortcut() == pressed && hasTarget) {
                 action->trigger();
                 return true;
             }

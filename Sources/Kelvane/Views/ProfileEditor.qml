@@ -8,6 +8,7 @@ Item {
     id: root
 
     property AppPicker picker: null
+    readonly property bool canUndo: ProfilesViewModel.editor.undoText !== ""
 
     function focusName() {
         scroll.contentY = 0;
@@ -16,6 +17,10 @@ Item {
     function pick() {
         root.picker = apps.createObject(root) as AppPicker;
         root.picker.open();
+    }
+    // The command of the Edit menu.
+    function undo() {
+        ProfilesViewModel.editor.undoRemove();
     }
     function askToDelete() {
         (confirmation.createObject(root) as Confirmation).open();
@@ -86,11 +91,6 @@ Item {
         anchors.bottom: parent.bottom
         width: root.width
         onDeleteRequested: root.askToDelete()
-    }
-    Shortcut {
-        sequence: "Ctrl+Z"
-        enabled: ProfilesViewModel.editor.undoText !== "" && !nameCard.editing && root.picker === null
-        onActivated: ProfilesViewModel.editor.undoRemove()
     }
     // Most who come here open neither.
     Component {

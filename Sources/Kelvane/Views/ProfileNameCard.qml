@@ -6,7 +6,6 @@ import Kelvane
 Card {
     id: root
 
-    readonly property alias editing: field.activeFocus
     readonly property real controlsX: 28 + Math.max(52, nameLabel.implicitWidth, iconLabel.implicitWidth)
     readonly property real controlsWidth: root.width - root.controlsX - 14
     readonly property int perRow: root.controlsWidth >= 12 * 30 ? 12 : 6

@@ -8,6 +8,11 @@ FocusScope {
     id: root
 
     focus: true
+    readonly property bool canUndo: editor.canUndo
+
+    function undo() {
+        editor.undo();
+    }
 
     Item {
         id: column

@@ -1,6 +1,7 @@
 #include "Kelvane/Shell/MainMenu.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void keysOfTheWindowMenuAskTheOwner_data();
     void keysOfTheWindowMenuAskTheOwner();
     void editMenuActsOnTheFocus();
+    void editKeysNobodyTakesGoOn();
 
 private:
     using ApplicationMenu = MainMenu::ApplicationMenu;
@@ -95,6 +97,30 @@ void MainMenuTest::editMenuActsOnTheFocus() {
     QCOMPARE(field.text(), QString());
     edit[0]->trigger();
     QCOMPARE(field.text(), u"once"_s);
+    edit[1]->trigger();
+    QCOMPARE(field.text(), QString());
+    edit[5]->trigger();
+    QCOMPARE(field.text(), u"once"_s);
+}
+
+void MainMenuTest::editKeysNobodyTakesGoOn() {
+    class Listener : public QWidget {
+    public:
+        int keys = 0;
+
+    protected:
+        void keyPressEvent(QKeyEvent* event) override { keys += event->key() == Qt::Key_Control ? 0 : 1; }
+    };
+    const MainMenu menu(ApplicationMenu::ours);
+    Listener listener;
+    listener.setFocusPolicy(Qt::StrongFocus);
+    listener.show();
+    listener.activateWindow();
+    listener.setFocus();
+    QTRY_COMPARE(QGuiApplication::focusObject(), &listener);
+    for (const Qt::Key key : {Qt::Key_Z, Qt::Key_X, Qt::Key_C, Qt::Key_V, Qt::Key_A})
+        QTest::keyClick(listener.windowHandle(), key, Qt::ControlModifier);
+    QCOMPARE(listener.keys, 5);
 }
 
 QTEST_MAIN(MainMenuTest)

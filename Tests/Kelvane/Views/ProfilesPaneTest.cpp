@@ -1,4 +1,7 @@
+#include "Kelvane/Shell/MainMenu.h"
 #include "WindowTest.h"
+
+#include <QApplication>
 
 using namespace DockCore;
 using namespace Kelvane;
@@ -80,6 +83,7 @@ private Q_SLOTS:
         QCOMPARE(pinned(), u"Mail Books Notes"_s);
         mac->press(Qt::Key_Delete);
         QCOMPARE(pinned(), u"Mail Books"_s);
+        const MainMenu menu(MainMenu::ApplicationMenu::ours);
         mac->press(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(pinned(), u"Mail Books Notes"_s);
         mac->press(Qt::Key_Backspace);
@@ -192,6 +196,6 @@ private:
 };
 
 int main(int argc, char** argv) {
-    return runWindowTest<ProfilesPaneTest>(argc, argv);
+    return runWindowTest<ProfilesPaneTest, QApplication>(argc, argv);
 }
 #include "ProfilesPaneTest.moc"

@@ -6,12 +6,12 @@
 #include <QTest>
 
 /// The start of a test of the real window, without a display.
-template <typename Test>
+template <typename Test, typename Application = QGuiApplication>
 int runWindowTest(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     qputenv("TZ", "UTC");
-    QGuiApplication application(argc, argv);
+    const Application application(argc, argv);
     Test test;
     return QTest::qExec(&test, argc, argv);
 }
