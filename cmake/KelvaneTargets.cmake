@@ -4,7 +4,13 @@ function(kelvane_target target)
     target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}/Sources")
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_URL_CAST_FROM_STRING
+        # Newer Qt marks what 6.4 has no other way for.
+        QT_WARN_DEPRECATED_UP_TO=0x060400
         KELVANE_VERSION="${PROJECT_VERSION}")
+    if(APPLE)
+        # Apple's headers else define `check` and `require` as macros.
+        target_compile_definitions(${target} PRIVATE __ASSERT_MACROS_DEFINE_VERSIONS_WITHOUT_UNDERSCORES=0)
+    endif()
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
         $<$<CONFIG:Debug>:-Wnull-dereference> -Wimplicit-fallthrough
