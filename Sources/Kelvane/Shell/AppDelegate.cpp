@@ -9,10 +9,17 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
 namespace Kelvane {
+
+namespace {
+using namespace std::chrono_literals;
+/// The activation that comes with a launch comes by then.
+constexpr auto launchTime = 3s;
+} // namespace
 
 AppDelegate::AppDelegate(AppModel& model, Desktop& desktop)
     : m_model(model)
@@ -30,6 +37,10 @@ void AppDelegate::finishLaunching(Window window) {
     m_desktop.setActivationPolicy(Desktop::ActivationPolicy::accessory);
     m_model.start();
     makeStatusItem();
+    QTimer::singleShot(launchTime, this, [this] {
+        if (QGuiApplication::applicationState() != Qt::ApplicationActive)
+            m_hasBeenInBackground = true;
+    });
     const QString folder = qEnvironmentVariable("KELVANE_SHOTS");
     if (!m_model.settings().onboarded || window == Window::show || !folder.isEmpty())
         showWindow();
