@@ -72,6 +72,8 @@ bool Appearance::eventFilter(QObject* watched, QEvent* event) {
         m_textScale.reset();
         Q_EMIT fontChanged();
     }
+    if (watched == qGuiApp && event->type() == QEvent::DynamicPropertyChange)
+        Q_EMIT reducedMotionChanged();
     return QObject::eventFilter(watched, event);
 }
 

@@ -17,7 +17,7 @@ class Appearance : public QObject {
     Q_PROPERTY(QString family READ family NOTIFY fontChanged)
     /// How much larger than usual the user wants text, from 1.
     Q_PROPERTY(qreal textScale READ textScale NOTIFY fontChanged)
-    Q_PROPERTY(bool reducedMotion READ reducedMotion CONSTANT)
+    Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY reducedMotionChanged)
     /// Pixels a point where the window is, for images.
     Q_PROPERTY(qreal pixelRatio READ pixelRatio NOTIFY pixelRatioChanged)
 
@@ -41,6 +41,7 @@ public:
 Q_SIGNALS:
     void darkChanged();
     void fontChanged();
+    void reducedMotionChanged();
     void pixelRatioChanged();
 
 private:

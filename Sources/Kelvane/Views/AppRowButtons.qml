@@ -21,6 +21,7 @@ Row {
         enabled: !root.isFirst
         symbol: "chevron.up"
         symbolSize: 14
+        ink: Theme.text3
         text: "Move up"
         Accessible.description: root.name
         onClicked: root.moveRequested(-1)
@@ -30,6 +31,7 @@ Row {
         enabled: !root.isLast
         symbol: "chevron.down"
         symbolSize: 14
+        ink: Theme.text3
         text: "Move down"
         Accessible.description: root.name
         onClicked: root.moveRequested(1)
@@ -41,6 +43,7 @@ Row {
     IconButton {
         symbol: "xmark"
         symbolSize: 14
+        ink: Theme.text3
         text: "Remove"
         Accessible.description: root.name
         onClicked: root.removeRequested()

@@ -27,7 +27,8 @@ Rectangle {
     Component.onCompleted: {
         if (root.grown < 1)
             grow.start();
-        UsageViewModel.firstShow = false;
+        else
+            UsageViewModel.firstShow = false;
     }
 
     NumberAnimation on grown {
@@ -36,6 +37,7 @@ Rectangle {
         to: 1
         duration: Theme.barTime
         easing.type: Easing.OutCubic
+        onFinished: UsageViewModel.firstShow = false
     }
     Column {
         id: sum

@@ -6,6 +6,8 @@ import Kelvane
 FocusScope {
     id: root
 
+    focus: true
+
     PaneScroll {
         width: root.width
         height: root.height - bar.height

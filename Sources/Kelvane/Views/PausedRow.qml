@@ -8,7 +8,9 @@ Item {
 
     clip: true
     visible: height > 0
-    height: SettingsViewModel.isPaused ? 48 : 0
+    height: SettingsViewModel.isPaused ? Math.max(48, button.height + 18) : 0
+    opacity: SettingsViewModel.isPaused ? 1 : 0
+    Behavior on opacity { NumberAnimation { duration: Theme.growTime; easing.type: Easing.OutCubic } }
     Behavior on height { NumberAnimation { duration: Theme.growTime; easing.type: Easing.OutCubic } }
 
     Hairline {

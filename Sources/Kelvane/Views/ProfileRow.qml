@@ -27,6 +27,7 @@ T.ItemDelegate {
     background: Rectangle {
         radius: 8
         color: root.selected ? Theme.selected : root.hovered ? Theme.hover : Theme.clear
+        Behavior on color { ColorAnimation { duration: Theme.colourTime } }
         FocusRing {
             shown: root.focused
             edge: true

@@ -37,7 +37,7 @@ Item {
                     label: "Reorganize automatically"
                     explanation: "Keeps the active profile in step with your usage. It waits until you stop typing or clicking for a moment, so the Dock never shifts while you're reaching for it. If you rearrange the Dock yourself, updates pause."
                     MenuButton {
-                    label: "Reorganize automatically"
+                        label: "Reorganize automatically"
                         inCard: true
                         model: SettingsViewModel.schedules
                         currentIndex: SettingsViewModel.scheduleIndex

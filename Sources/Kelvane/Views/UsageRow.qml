@@ -20,6 +20,8 @@ Item {
     readonly property bool first: root.index === 0
     readonly property bool last: root.index === root.count - 1
     readonly property real rowHeight: Math.max(56, Theme.heading.lineHeight + Theme.caption.lineHeight + 22)
+    // The bar grows when the pane is first shown.
+    property real grown: UsageViewModel.firstShow && !Theme.reducedMotion ? 0 : 1
     readonly property real rowWidth: root.width - 2 * Theme.paneMargin
 
     function toggle() {
@@ -31,6 +33,12 @@ Item {
     Accessible.name: root.name
     Accessible.description: root.description
     Accessible.focusable: true
+    NumberAnimation on grown {
+        running: root.grown < 1
+        to: 1
+        duration: Theme.barTime
+        easing.type: Easing.OutCubic
+    }
     Accessible.onPressAction: root.toggle()
 
     CardRow {
@@ -58,7 +66,7 @@ Item {
         Rectangle {
             x: 48
             y: 4
-            width: Math.max(6, (row.width - 58) * root.share)
+            width: Math.max(6, (row.width - 58) * root.share * root.grown)
             height: row.height - 8
             radius: Math.min(10, width / 2)
             color: Theme.accentBar

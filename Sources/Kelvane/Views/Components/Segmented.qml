@@ -12,8 +12,15 @@ FocusScope {
     required property string label
     signal activated(int index)
 
+    // What was chosen here slides; what was so from the start, or changed elsewhere, is just there.
+    property bool sliding: false
+    function choose(index: int) {
+        root.sliding = true;
+        root.activated(index);
+    }
+
     implicitWidth: row.implicitWidth + 4
-    implicitHeight: Math.max(30, row.implicitHeight + 6)
+    implicitHeight: Math.max(30, row.implicitHeight + 4)
     Accessible.role: Accessible.Grouping
     Accessible.name: root.label
 
@@ -23,12 +30,27 @@ FocusScope {
         color: Theme.shelf
         border.color: Theme.line
     }
+    Rectangle {
+        id: thumb
+        readonly property Item current: root.currentIndex < segments.count ? segments.itemAt(root.currentIndex) : null
+        x: row.x + (thumb.current?.x ?? 0)
+        y: row.y
+        width: thumb.current?.width ?? 0
+        height: row.height
+        radius: 6
+        visible: thumb.current !== null
+        color: Theme.raised
+        border.color: Theme.lineStrong
+        Behavior on x { enabled: root.sliding; NumberAnimation { duration: Theme.slideTime; easing.type: Easing.OutCubic } }
+        Behavior on width { enabled: root.sliding; NumberAnimation { duration: Theme.slideTime; easing.type: Easing.OutCubic } }
+    }
     Row {
         id: row
         x: 2
         anchors.verticalCenter: parent.verticalCenter
 
         Repeater {
+            id: segments
             model: root.options
             delegate: T.RadioButton {
                 id: segment
@@ -44,17 +66,13 @@ FocusScope {
                 checkable: false
                 checked: segment.current
                 focus: segment.current
-                onClicked: root.activated(segment.index)
+                onClicked: root.choose(segment.index)
                 Accessible.name: segment.text
                 Accessible.onPressAction: segment.clicked()
-                Keys.onLeftPressed: root.activated(Math.max(0, root.currentIndex - 1))
-                Keys.onRightPressed: root.activated(Math.min(root.options.length - 1, root.currentIndex + 1))
+                Keys.onLeftPressed: root.choose(Math.max(0, root.currentIndex - 1))
+                Keys.onRightPressed: root.choose(Math.min(root.options.length - 1, root.currentIndex + 1))
 
-                background: Rectangle {
-                    radius: 6
-                    visible: segment.current
-                    color: Theme.raised
-                    border.color: Theme.lineStrong
+                background: Item {
                     FocusRing {
                         shown: segment.visualFocus
                         controlRadius: 6

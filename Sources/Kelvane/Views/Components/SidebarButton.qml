@@ -28,6 +28,7 @@ T.TabButton {
     background: Rectangle {
         radius: 8
         color: root.current || root.down ? Theme.selected : root.hovered ? Theme.hover : Theme.clear
+        Behavior on color { ColorAnimation { duration: Theme.colourTime } }
         FocusRing {
             shown: root.visualFocus
             edge: true
