@@ -118,8 +118,15 @@ void AppModel::readCurrent() {
     Q_EMIT currentChanged();
 }
 
+void AppModel::readLoginItem() {
+    const bool isOn = m_loginItem != nullptr && m_loginItem->isEnabled();
+    if (std::exchange(m_launchAtLogin, isOn) != isOn)
+        Q_EMIT launchAtLoginChanged();
+}
+
 void AppModel::refresh(std::function<void()> then) {
     readCurrent();
+    readLoginItem();
     detectManualChange();
     const qint64 generation = ++m_refreshGeneration;
     // A pool task must be copyable, a store must not be: the task shares the one private copy.
@@ -155,6 +162,14 @@ void AppModel::refresh(std::function<void()> then) {
 void AppModel::recomputeProposal() {
     m_proposal = plan(activeProfile());
     Q_EMIT proposalChanged();
+}
+
+DockDiff AppModel::proposedChange() const {
+    return m_proposal.isEmpty() ? DockDiff() : DockDiff(m_current, m_proposal);
+}
+
+QString AppModel::emptyText(const Profile& profile) {
+    return u"%1 has no apps yet. Add some in Profiles."_s.arg(profile.name);
 }
 
 QList<DockTile> AppModel::plan(const Profile& profile) const {
@@ -193,8 +208,7 @@ void AppModel::applyActive(Voice voice, Reply reply) {
         return;
     }
     if (m_proposal.isEmpty()) {
-        conclude({.text = u"%1 has no apps yet. Add some in Profiles."_s.arg(profile.name), .isError = true}, voice,
-                 reply);
+        conclude({.text = emptyText(profile), .isError = true}, voice, reply);
         return;
     }
     const QList<DockTile> proposal = m_proposal;

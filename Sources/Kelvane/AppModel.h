@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DockCore/AppInfo.h"
+#include "DockCore/DockDiff.h"
 #include "DockCore/DockTile.h"
 #include "DockCore/ProfileStore.h"
 #include "DockCore/Ranker.h"
@@ -61,6 +62,11 @@ public:
     // State, with a signal for each change.
     const QList<DockCore::DockTile>& current() const { return m_current; }
     const QList<DockCore::DockTile>& proposal() const { return m_proposal; }
+    /// What applying the proposal would change. Before the first one, and for a profile that yields none, that is
+    /// nothing: such a Dock is never applied.
+    DockCore::DockDiff proposedChange() const;
+    /// What is said of a profile that yields no Dock.
+    static QString emptyText(const DockCore::Profile& profile);
     const QMap<DockCore::UsageWindow, QList<DockCore::AppScore>>& rankings() const { return m_rankings; }
     const QList<DockCore::Snapshot>& snapshots() const { return m_snapshots; }
     const QList<DockCore::AppInfo>& installed() const { return m_installed; }
@@ -147,6 +153,8 @@ private:
     /// records what was done and gives the text to answer with.
     void runDockChange(std::function<void()> work, std::function<QString()> done, Voice voice, Reply reply);
     void readCurrent();
+    /// The user may have switched it elsewhere.
+    void readLoginItem();
     void detectManualChange();
     void recordApplied(const QStringList& signature);
     void show(const Toast& toast);

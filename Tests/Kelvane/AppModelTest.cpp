@@ -64,6 +64,7 @@ private Q_SLOTS:
     void updateIgnoresUnknownAndEqualProfiles();
     void updateOfAnotherProfileLeavesTheProposal();
     void aRefusedLoginItemShowsTheRealState();
+    void aLoginItemSwitchedElsewhereIsSeen();
     void aToastIsDismissedOnlyWhileItIsTheSame();
     void erasingUsageKeepsProfilesAndSnapshots();
     void finishingTheFirstRunWithAnEmptyProposalStillEndsIt();
@@ -476,6 +477,16 @@ void AppModelTest::aRefusedLoginItemShowsTheRealState() {
     model->setLaunchAtLogin(false);
     QCOMPARE(model->toast(), (Toast{u"macOS didn't allow that: Operation not permitted"_s, true}));
     QVERIFY(model->launchAtLogin());
+}
+
+void AppModelTest::aLoginItemSwitchedElsewhereIsSeen() {
+    QSignalSpy changed(&*model, &AppModel::launchAtLoginChanged);
+    QVERIFY(refreshAndWait(*model));
+    QCOMPARE(changed.count(), 0);
+    login.enabled = true;
+    QVERIFY(refreshAndWait(*model));
+    QVERIFY(model->launchAtLogin());
+    QCOMPARE(changed.count(), 1);
 }
 
 void AppModelTest::aToastIsDismissedOnlyWhileItIsTheSame() {

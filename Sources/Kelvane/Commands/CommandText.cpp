@@ -95,7 +95,7 @@ QString changes(const QList<DockTile>& from, const QList<DockTile>& to, Colour c
 QString plan(const AppModel& model, const Profile& profile, Colour colour) {
     const QList<DockTile> tiles = model.plan(profile);
     if (tiles.isEmpty())
-        return u"%1 has no apps yet. Add some in Profiles.\n"_s.arg(profile.name);
+        return AppModel::emptyText(profile) + u'\n';
     if (layoutSignature(tiles) == layoutSignature(model.current()))
         return u"Your Dock already matches %1.\n"_s.arg(profile.name);
     return inked(u"Suggested for %1: %2\n"_s.arg(profile.name, counted(appCount(tiles), u"app"_s)), Ink::strong,

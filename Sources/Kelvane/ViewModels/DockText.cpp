@@ -41,8 +41,4 @@ QString DockText::leaving(const QStringList& names) {
     return names.isEmpty() ? QString() : u"Leaving: "_s + names.join(u", "_s);
 }
 
-QString DockText::empty(const QString& profile) {
-    return profile + u" has no apps yet. Add some in Profiles."_s;
-}
-
 } // namespace Kelvane

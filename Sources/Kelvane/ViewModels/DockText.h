@@ -19,8 +19,6 @@ QString data(int trackedDays, DockCore::UsageWindow window);
 QString count(qsizetype apps);
 /// The names of what would leave; empty when nothing does.
 QString leaving(const QStringList& names);
-/// What stands in place of a suggestion without tiles.
-QString empty(const QString& profile);
 
 } // namespace DockText
 } // namespace Kelvane

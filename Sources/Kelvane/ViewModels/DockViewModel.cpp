@@ -57,7 +57,7 @@ QString DockViewModel::suggestion() const {
 }
 
 QString DockViewModel::emptyText() const {
-    return DockText::empty(m_model.activeProfile().name);
+    return AppModel::emptyText(m_model.activeProfile());
 }
 
 QString DockViewModel::dataNote() const {
@@ -84,11 +84,7 @@ bool DockViewModel::matches() const {
 }
 
 bool DockViewModel::isDense() const {
-    const auto apps = [](const TileListModel& tiles) {
-        return std::count_if(tiles.rows().begin(), tiles.rows().end(),
-                             [](const TileRow& row) { return !row.isSpacer; });
-    };
-    return std::max(apps(m_now), apps(m_suggested)) > mostRoomy;
+    return std::max(m_now.appCount(), m_suggested.appCount()) > mostRoomy;
 }
 
 void DockViewModel::chooseRow(int row) {
@@ -111,9 +107,7 @@ void DockViewModel::resume() {
 void DockViewModel::updateTiles() {
     const QList<DockTile>& current = m_model.current();
     const QList<DockTile>& proposal = m_model.proposal();
-    // Before the first proposal, and for a profile that yields none, nothing is said to leave: such a Dock is never
-    // applied.
-    m_diff = proposal.isEmpty() ? DockDiff() : DockDiff(current, proposal);
+    m_diff = m_model.proposedChange();
     m_now.setTiles(TileListModel::current(current, m_diff));
     m_suggested.setTiles(TileListModel::proposed(proposal, current, m_diff, m_model.activeProfile().pinned));
     Q_EMIT changed();

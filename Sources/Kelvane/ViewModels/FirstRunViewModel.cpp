@@ -88,15 +88,15 @@ QString FirstRunViewModel::suggestionTitle() const {
 }
 
 int FirstRunViewModel::addedCount() const {
-    return static_cast<int>(DockDiff(m_model.current(), m_model.proposal()).added.size());
+    return static_cast<int>(m_model.proposedChange().added.size());
 }
 
 int FirstRunViewModel::leavingCount() const {
-    return static_cast<int>(DockDiff(m_model.current(), m_model.proposal()).removed.size());
+    return static_cast<int>(m_model.proposedChange().removed.size());
 }
 
 int FirstRunViewModel::movedCount() const {
-    return static_cast<int>(DockDiff(m_model.current(), m_model.proposal()).moved.size());
+    return static_cast<int>(m_model.proposedChange().moved.size());
 }
 
 QStringList FirstRunViewModel::schedules() const {

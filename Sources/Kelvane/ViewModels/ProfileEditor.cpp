@@ -55,11 +55,11 @@ void ProfileEditor::updatePreview() {
 }
 
 bool ProfileEditor::isPreviewDense() const {
-    return m_preview.count() > DockViewModel::mostRoomy;
+    return m_preview.appCount() > DockViewModel::mostRoomy;
 }
 
 QString ProfileEditor::emptyText() const {
-    return name() + u" has no apps yet. Add some in Profiles."_s;
+    return AppModel::emptyText(profile());
 }
 
 void ProfileEditor::edit(const std::function<void(Profile&)>& change) {

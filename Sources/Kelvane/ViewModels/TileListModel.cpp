@@ -4,6 +4,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace Kelvane {
 
 using namespace Qt::StringLiterals;
@@ -115,6 +117,10 @@ QVariant TileListModel::value(const TileRow& row, int role) const {
     default:
         return {};
     }
+}
+
+qsizetype TileListModel::appCount() const {
+    return std::count_if(rows().begin(), rows().end(), [](const TileRow& row) { return !row.isSpacer; });
 }
 
 QList<TileRow> TileListModel::current(const QList<DockTile>& current, const DockDiff& diff) {

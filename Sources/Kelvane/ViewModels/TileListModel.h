@@ -46,6 +46,8 @@ public:
 
     void setTiles(const QList<TileRow>& tiles) { setRows(tiles); }
     int count() const { return rowCount(); }
+    /// Spacers do not count.
+    qsizetype appCount() const;
     QHash<int, QByteArray> roleNames() const override;
 
     /// The Dock as it is: no spacers, and what leaves is marked.

@@ -75,10 +75,6 @@ private Q_SLOTS:
         QCOMPARE(DockText::leaving({}), QString());
         QCOMPARE(DockText::leaving({u"Maps"_s, u"Music"_s}), u"Leaving: Maps, Music"_s);
     }
-
-    void anEmptySuggestionNamesItsProfile() {
-        QCOMPARE(DockText::empty(u"Work"_s), u"Work has no apps yet. Add some in Profiles."_s);
-    }
 };
 
 QTEST_GUILESS_MAIN(DockTextTest)

@@ -117,6 +117,12 @@ private Q_SLOTS:
         QCOMPARE(flow->movedCount(), 0);
     }
 
+    void aProfileWithoutAppsWouldChangeNothing() {
+        QVERIFY(refreshAndWait(*model));
+        pinActive(*model, {});
+        QCOMPARE(flow->leavingCount(), 0);
+    }
+
     void applyingEndsTheFlowAndWritesTheDock() {
         pinActive(*model, {u"c"_s, u"b"_s});
         flow->applyToDock();

@@ -67,6 +67,34 @@ private Q_SLOTS:
         QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
     }
 
+    void theSpacerIsNoAppOfADensePreview() {
+        QStringList words;
+        for (int i = 0; i < 26; ++i) {
+            words += u"app%1"_s.arg(i);
+            world->install(ModelWorld::bundleID(words.last()), words.last());
+        }
+        world->opened(u"/Applications/a.app"_s, {world->clock.now()});
+        world->opened(u"/Applications/b.app"_s, {world->clock.now()});
+        QVERIFY(refreshAndWait(*model));
+        Profile profile = model->activeProfile();
+        profile.pinned = ModelWorld::bundleIDs(words);
+        profile.adaptiveSlots = 1;
+        profile.separatePinned = true;
+        model->update(profile);
+        QCOMPARE(editor->preview()->count(), 26 + 1 + 1);
+        QVERIFY(!editor->isPreviewDense());
+        profile.adaptiveSlots = 2;
+        model->update(profile);
+        QCOMPARE(editor->preview()->count(), 26 + 1 + 2);
+        QVERIFY(editor->isPreviewDense());
+    }
+
+    void aProfileWithoutAppsIsNamedInItsPreview() {
+        pinActive(*model, {});
+        QCOMPARE(editor->preview()->count(), 0);
+        QCOMPARE(editor->emptyText(), u"Work has no apps yet. Add some in Profiles."_s);
+    }
+
     void usageSlots_data() {
         QTest::addColumn<int>("wanted");
         QTest::addColumn<int>("kept");
