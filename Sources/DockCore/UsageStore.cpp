@@ -82,16 +82,26 @@ private:
         const QJsonObject object = json.toObject();
         QHash<QString, Value> map;
         map.reserve(object.size());
+        QStringList keys;
+        keys.reserve(object.size());
+        auto before = m_before.cbegin();
         for (auto entry = object.constBegin(); entry != object.constEnd(); ++entry) {
             const std::optional<Value> value = read(entry.value());
             if (!value)
                 return std::nullopt;
-            map.insert(*m_strings.insert(entry.key()), *value);
+            const QString key = entry.key();
+            while (before != m_before.cend() && *before < key)
+                ++before;
+            keys.append(before != m_before.cend() && *before == key ? *before : *m_strings.insert(key));
+            map.insert(keys.constLast(), *value);
         }
+        m_before = std::move(keys);
         return map;
     }
 
     QSet<QString> m_strings;
+    /// The keys of the object before, in order as all keys come. Most come again, and are found by walking along.
+    QStringList m_before;
 };
 
 JSONText textOf(const UsageStore::File& file) {
