@@ -117,6 +117,21 @@ Stopwatch::Pair Logic::rankingAndPlanning(const Fixture& fixture, int runs) {
         });
 }
 
+Stopwatch::Pair Logic::loading(const Fixture& fixture, int runs) {
+    FreshComputer computer;
+    return Stopwatch::medians(
+        Stopwatch::Time::processor, runs,
+        [&] {
+            const UsageStore usage(fixture.usageFile());
+            require(usage.trackingSince().has_value(), "the usage file is not read");
+        },
+        [&] {
+            QFile file(fixture.usageFile());
+            require(file.open(QIODevice::ReadOnly), "the usage file cannot be opened");
+            sink = sink + QJsonDocument::fromJson(file.readAll()).isNull();
+        });
+}
+
 Stopwatch::Pair Logic::loadingAndSaving(const Fixture& fixture, int runs) {
     FreshComputer computer;
     return Stopwatch::medians(

@@ -13,6 +13,8 @@ Stopwatch::Pair scanning(const Fixture& fixture, int runs);
 Stopwatch::Pair scanningAgain(const Fixture& fixture, int runs);
 /// Ranking by a month of 91 stored days and planning; floor: adding the same numbers up and sorting the sums.
 Stopwatch::Pair rankingAndPlanning(const Fixture& fixture, int runs);
+/// Loading the usage file; floor: parsing the same JSON.
+Stopwatch::Pair loading(const Fixture& fixture, int runs);
 /// Loading the usage file and saving it with one change; floor: parsing and writing the same JSON.
 Stopwatch::Pair loadingAndSaving(const Fixture& fixture, int runs);
 

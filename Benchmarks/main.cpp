@@ -42,8 +42,8 @@ QList<Figure> figures() {
         const Fixture fixture(300, dockTiles);
         add(u"rank 300 applications over 91 days, and plan"_s, Logic::rankingAndPlanning(fixture, 51),
             u"add the window's numbers up and sort"_s, {}, 0.005);
-        add(u"load and save that usage file"_s, Logic::loadingAndSaving(fixture, 11),
-            u"parse and write the same JSON"_s, 2, {});
+        add(u"load that usage file"_s, Logic::loading(fixture, 11), u"parse the same JSON"_s, 2, {});
+        add(u"load and save it"_s, Logic::loadingAndSaving(fixture, 11), u"parse and write the same JSON"_s, 2, {});
     }
     {
         const Fixture fixture(30, dockTiles);
