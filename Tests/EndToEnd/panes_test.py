@@ -87,6 +87,7 @@ class HistoryPane(Pane):
         window.click("Restore", about="")
         until(lambda: self.world.dock() == self.held(snapshot))
         window.find(f"Dock restored to “{snapshot['reason']}”.", role="alert message")
+        window.await_gone("Restore this Dock?")
         window.find("Same as now")
         newest = self.snapshots()[0]
         self.assertEqual((newest["reason"], self.held(newest)), ("Before restoring", before))
@@ -186,6 +187,7 @@ class SettingsPane(Pane):
         window.keys("Return")
         until(lambda: not (self.world.support / "usage.json").exists())
         window.find("Usage history erased.", role="alert message")
+        window.await_gone("Erase your usage history?")
         self.assertEqual((self.world.json("profiles.json"), self.snapshots()), (profiles, snapshots))
         window.click("Usage", role="page tab")
         window.find("Tracking starts now. Until then, ranks use macOS's record of which days each app was opened.")

@@ -160,7 +160,7 @@ class ProfilesPane(ApplicationTest):
         self.assertEqual(window.find("Delete this profile?", role="dialog").description, "Your Dock stays as it is.")
         window.click("Delete")
         until(lambda: self.names() == ["Everyday", "Work", "Coding", "Meeting", "Personal"])
-        window.await_gone("Coding Copy")
+        window.await_gone("Delete this profile?")
         # The active one goes, too, and the first takes its place.
         window.click("Work", role="list item")
         until(lambda: window.find("Name", role="text").text == "Work")

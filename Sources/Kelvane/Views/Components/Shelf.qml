@@ -46,7 +46,8 @@ Rectangle {
         Repeater {
             model: root.tiles
             onItemRemoved: (index, item) => {
-                if (root.visible && root.moveTime > 0)
+                // One that goes before it was made leaves nothing behind.
+                if (item && root.visible && root.moveTime > 0)
                     departing.createObject(root, {
                         x: flow.x + item.x, y: flow.y + item.y, name: item.name, iconSource: item.iconSource,
                         accessibleName: "", mark: item.mark, pinned: item.pinned, spacer: item.spacer
