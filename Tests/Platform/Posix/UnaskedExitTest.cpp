@@ -1,16 +1,35 @@
 #include "Platform/Posix/UnaskedExit.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <cstdlib>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
-/// Each row ends a process of its own.
+namespace {
+
+const QString inTheMiddle = u"--exit-in-the-middle"_s;
+const QString afterwards = u"--exit-afterwards"_s;
+
+/// What this program does as the other process: saves into `file`, and calls `exit` with 3 at that moment.
+[[noreturn]] void leave(const QString& moment, const QString& file) {
+    {
+        const UnaskedExit unaskedExit([&file] {
+            QFile saved(file);
+            if (saved.open(QIODevice::Append))
+                saved.write("once ");
+        });
+        if (moment == inTheMiddle)
+            std::exit(3);
+    }
+    std::exit(3);
+}
+
+} // namespace
+
 class UnaskedExitTest : public QObject {
     Q_OBJECT
 
@@ -19,50 +38,36 @@ private Q_SLOTS:
     void anExitAfterwardsIsLeftAlone();
 
 private:
-    enum class Moment { whileItLives, afterItsEnd };
-    /// The exit status of a process that calls `exit` with 3 at that moment.
-    int statusOf(Moment moment) const;
-    QByteArray saved() const;
+    /// The exit status of a process that leaves at that moment.
+    int statusOf(const QString& moment) const {
+        return QProcess::execute(QCoreApplication::applicationFilePath(), {moment, m_file});
+    }
+    QByteArray saved() const {
+        QFile file(m_file);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
 
     QTemporaryDir m_folder;
     QString m_file = m_folder.filePath(u"saved"_s);
 };
 
-int UnaskedExitTest::statusOf(Moment moment) const {
-    const pid_t child = fork();
-    if (child == 0) {
-        {
-            const UnaskedExit unaskedExit([this] {
-                QFile file(m_file);
-                if (file.open(QIODevice::Append))
-                    file.write("once ");
-            });
-            if (moment == Moment::whileItLives)
-                std::exit(3);
-        }
-        std::exit(3);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-QByteArray UnaskedExitTest::saved() const {
-    QFile file(m_file);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 void UnaskedExitTest::anExitInTheMiddleSavesOnceAndIsNoFailure() {
     QFile::remove(m_file);
-    QCOMPARE(statusOf(Moment::whileItLives), 0);
+    QCOMPARE(statusOf(inTheMiddle), 0);
     QCOMPARE(saved(), QByteArray("once "));
 }
 
 void UnaskedExitTest::anExitAfterwardsIsLeftAlone() {
     QFile::remove(m_file);
-    QCOMPARE(statusOf(Moment::afterItsEnd), 3);
+    QCOMPARE(statusOf(afterwards), 3);
     QCOMPARE(saved(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(UnaskedExitTest)
+int main(int argc, char** argv) {
+    if (argc == 3 && QString::fromLocal8Bit(argv[1]).startsWith(u"--exit"))
+        leave(QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[2]));
+    const QCoreApplication application(argc, argv);
+    UnaskedExitTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "UnaskedExitTest.moc"
