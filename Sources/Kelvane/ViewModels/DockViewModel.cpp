@@ -15,7 +15,6 @@ namespace Kelvane {
 
 using namespace Qt::StringLiterals;
 using DockCore::AppCatalog;
-using DockCore::DockDiff;
 using DockCore::DockTile;
 
 DockViewModel::DockViewModel(AppModel& model, QObject* parent)
