@@ -99,6 +99,12 @@ class Life(ApplicationTest):
             self.assertEqual(self.application.wait(20), 0)
             self.assertFalse((self.world.support / "lock").exists())
 
+    def test_it_ends_well_while_its_window_is_made(self):
+        for _ in range(8):
+            self.launch("--show")
+            until(self.windows)
+            self.quit()
+
     def test_a_crash_blocks_nobody(self):
         self.launch()
         self.application.kill()

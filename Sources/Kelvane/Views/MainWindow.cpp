@@ -9,11 +9,13 @@
 #include "Kelvane/Views/SymbolProvider.h"
 #include "Kelvane/Views/WindowFrame.h"
 
+#include <QDeadlineTimer>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
 #include <QQmlApplicationEngine>
+#include <QQmlIncubationController>
 #include <QQuickWindow>
 #include <QScreen>
 
@@ -24,6 +26,12 @@ extern void qml_register_types_Kelvane();
 namespace Kelvane {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+/// A pane takes a tenth of a second.
+constexpr auto longestMaking = 2s;
+} // namespace
 
 MainWindow::MainWindow(AppModel& model, Desktop& desktop)
     : m_context{model, desktop}
@@ -33,6 +41,15 @@ MainWindow::MainWindow(AppModel& model, Desktop& desktop)
 MainWindow::~MainWindow() {
     if (m_window && m_window->isVisible())
         remember();
+    finishMaking();
+}
+
+void MainWindow::finishMaking() {
+    QQmlIncubationController* making = m_engine ? m_engine->incubationController() : nullptr;
+    // The engine complains about what is half made when it goes.
+    const QDeadlineTimer deadline(longestMaking);
+    while (making != nullptr && making->incubatingObjectCount() > 0 && !deadline.hasExpired())
+        making->incubateFor(static_cast<int>(deadline.remainingTime()));
 }
 
 void MainWindow::show() {

@@ -48,6 +48,7 @@ private:
     void make();
     void place();
     void remember() const;
+    void finishMaking();
 
     ViewContext m_context;
     ViewContextScope m_scope;
