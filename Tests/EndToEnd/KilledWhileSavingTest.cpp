@@ -26,21 +26,26 @@ void KilledWhileSavingTest::theFileAlwaysReads() {
     const QString path = folder.filePath(u"usage.json"_s);
     QRandomGenerator random(2026);
     double before = 0;
-    int saves = 0;
+    qsizetype saves = 0;
     for (int kill = 0; kill < kills; ++kill) {
         QProcess process;
         process.start(u"" SAVES_UNTIL_KILLED ""_s, {path});
-        // The end comes at any moment after the first save.
-        QVERIFY(process.waitForReadyRead(patience));
+        // The end comes at any moment after the first save, the second or the third, however long one takes.
+        const qsizetype unharmed = 1 + random.bounded(3);
+        QByteArray said;
+        while (said.count('\n') < unharmed) {
+            QVERIFY(process.waitForReadyRead(patience));
+            said += process.readAllStandardOutput();
+        }
         QTest::qWait(static_cast<int>(random.bounded(12)));
         process.kill();
         QVERIFY(process.waitForFinished(patience));
+        said += process.readAllStandardOutput();
 
-        const QList<QByteArray> lines = process.readAllStandardOutput().split('\n');
-        QVERIFY(lines.size() > 1);
+        const QList<QByteArray> lines = said.split('\n');
         const double promised = lines.at(lines.size() - 2).toDouble();
         QVERIFY(promised > before);
-        saves += static_cast<int>(lines.size()) - 1;
+        saves += lines.size() - 1;
 
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -53,10 +58,9 @@ void KilledWhileSavingTest::theFileAlwaysReads() {
         QVERIFY2(kept == promised || kept == promised + 10, qPrintable(u"%1, not %2"_s.arg(kept).arg(promised)));
         before = kept;
     }
-    QVERIFY(saves > kills);
     // What was begun and never finished does not pile up.
     QVERIFY(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size() <= kills + 1);
-    qInfo("%d saves, %lld files left", saves,
+    qInfo("%lld saves, %lld files left", static_cast<long long>(saves),
           static_cast<long long>(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size()));
 }
 
