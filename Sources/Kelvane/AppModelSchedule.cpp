@@ -49,10 +49,11 @@ void AppModel::autoCheck() {
     if (!settings().onboarded || settings().autoUpdate == AutoUpdate::off || settings().autoPaused ||
         !settings().lastAppliedSignature || !isDue())
         return;
-    // Where no desktop can tell, nobody is there to be disturbed.
-    const auto idle = m_workspace == nullptr ? std::nullopt : m_workspace->sinceLastInput();
-    if (idle && *idle <= idleThreshold)
-        return;
+    if (m_workspace != nullptr) {
+        const auto idle = m_workspace->sinceLastInput();
+        if (!idle || *idle <= idleThreshold)
+            return;
+    }
     tracker().flush();
     refresh([this] {
         if (!settings().autoPaused)

@@ -153,7 +153,9 @@ void AutoUpdateTest::aCheckAppliesOnlyWhenEverythingSpeaksForIt_data() {
         << applied(AutoUpdate::hourly, 86'400L * 365) << std::optional<Seconds>(0s) << false;
     QTest::newRow("exactly 20 seconds without input are not enough") << ready << std::optional<Seconds>(20s) << false;
     QTest::newRow("just above 20 seconds without input") << ready << std::optional<Seconds>(20.001) << true;
-    QTest::newRow("a desktop that cannot tell has nobody to disturb") << ready << std::optional<Seconds>() << true;
+    QTest::newRow("a desktop that cannot tell may have somebody at it") << ready << std::optional<Seconds>() << false;
+    QTest::newRow("where nobody can be, nobody is disturbed")
+        << ready << std::optional<Seconds>(Seconds::max()) << true;
 }
 
 void AutoUpdateTest::aCheckAppliesOnlyWhenEverythingSpeaksForIt() {

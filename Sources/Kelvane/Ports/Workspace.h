@@ -28,7 +28,8 @@ public:
 
     /// The application in front; nothing when there is none or it cannot be told.
     virtual std::optional<RunningApplication> frontApplication() = 0;
-    /// Time since the user's last input of any kind in this session; nothing when it cannot be told.
+    /// Time since the user's last input of any kind in this session; nothing when it cannot be told, and the longest
+    /// time there is where nobody can be, as on a machine without a display.
     /// Where the system does not announce that its screens went to sleep, asking finds it out: `paused` may come before
     /// the answer does.
     virtual std::optional<std::chrono::duration<double>> sinceLastInput() = 0;

@@ -14,6 +14,11 @@ namespace {
 /// Whoever asks often does not make us knock more often than this.
 constexpr auto attemptInterval = 1s;
 
+/// Whether somebody could sit at a display, be it one that we cannot reach.
+bool hasDisplay() {
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
 Kelvane::RunningApplication application(const X11Window& window) {
     Kelvane::RunningApplication running;
     running.isRegular = window.isOrdinary;
@@ -49,7 +54,7 @@ std::optional<Kelvane::RunningApplication> X11Workspace::frontApplication() {
 std::optional<std::chrono::duration<double>> X11Workspace::sinceLastInput() {
     reconnect();
     if (!m_display)
-        return std::nullopt;
+        return hasDisplay() ? std::nullopt : std::optional(std::chrono::duration<double>::max());
     const auto state = m_display->userState();
     if (state.screensSleep != m_screensSleep) {
         m_screensSleep = state.screensSleep;

@@ -56,7 +56,7 @@ private Q_SLOTS:
     void whoWasInFrontBeforeIsNotAnnounced();
     void tenThousandFocusChangesAreSurvived();
     void inputResetsTheIdleTime();
-    void withoutADisplayNothingIsAnswered();
+    void withoutADisplayNobodyIsThere();
     void aDisplayThatAppearsLaterIsFound();
     void aServerThatGoesIsFoundAgain();
     void aServerThatGoesBetweenTwoQuestionsIsNoticed();
@@ -421,11 +421,15 @@ void X11WorkspaceTest::inputResetsTheIdleTime() {
     QVERIFY(*idle < 300ms);
 }
 
-void X11WorkspaceTest::withoutADisplayNothingIsAnswered() {
+void X11WorkspaceTest::withoutADisplayNobodyIsThere() {
     qunsetenv("DISPLAY");
     X11Workspace adapter;
     QCOMPARE(adapter.frontApplication(), std::optional<RunningApplication>());
+    QCOMPARE(adapter.sinceLastInput(), std::optional(std::chrono::duration<double>::max()));
+    // Somebody may well be there, where we cannot see them.
+    qputenv("WAYLAND_DISPLAY", "wayland-0");
     QVERIFY(!adapter.sinceLastInput());
+    qunsetenv("WAYLAND_DISPLAY");
 }
 
 void X11WorkspaceTest::aDisplayThatAppearsLaterIsFound() {
