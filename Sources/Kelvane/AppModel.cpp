@@ -136,7 +136,8 @@ void AppModel::refresh(std::function<void()> then) {
             const QList<AppInfo> installed = catalog.installedApps(AppCatalog::Scan::refresh);
             QMap<UsageWindow, QList<AppScore>> rankings;
             for (const UsageWindow window : allUsageWindows()) {
-                if (m_isClosing)
+                // What was overtaken would publish nothing.
+                if (m_isClosing || generation != m_refreshGeneration)
                     return;
                 rankings[window] =
                     Ranker::rank(*usage, window, catalog, Ranker::Spotlight::include, Platform::current().clock.now());

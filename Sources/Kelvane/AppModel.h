@@ -186,7 +186,7 @@ private:
     QTimer m_autoTimer = QTimer(this);
     /// When the Dock was last applied or confirmed by this process, on the clock that nobody sets.
     std::optional<std::chrono::nanoseconds> m_appliedElapsed;
-    qint64 m_refreshGeneration = 0;
+    std::atomic<qint64> m_refreshGeneration = 0;
     /// How to record what the last change of the Dock did, from its end in the background until that has happened.
     std::function<QString()> m_unrecorded;
     /// Set when the model goes, so that a background scan under way is not finished for nobody.
