@@ -7,7 +7,7 @@
 namespace DockCore {
 
 /// The Dock's preferences domain on this computer: one value a key, read and written whole.
-/// It knows nothing of what the values mean. Any thread may call it.
+/// It knows nothing of what the values mean. Any thread may call it, one at a time.
 class Preferences {
 public:
     virtual ~Preferences() = default;

@@ -1,5 +1,7 @@
 #include "Platform/MacOS/Preferences.h"
 
+#include <utility>
+
 namespace MacOS {
 
 namespace {
@@ -19,13 +21,11 @@ Preferences::Preferences(const QString& domain)
     : m_domain(domain) {}
 
 bool Preferences::synchronize() {
-    const std::lock_guard guard(m_lock);
     const bool saved = CFPreferencesAppSynchronize(m_domain.borrow()) != 0;
-    return saved && m_refused.isEmpty();
+    return !std::exchange(m_refusedValue, false) && saved;
 }
 
 std::optional<DockCore::PropertyList> Preferences::copyValue(const QString& key) {
-    const std::lock_guard guard(m_lock);
     const Owner value = copyAppValue(PreferenceKey(key), m_domain);
     if (!value) {
         return std::nullopt;
@@ -34,8 +34,6 @@ std::optional<DockCore::PropertyList> Preferences::copyValue(const QString& key)
 }
 
 void Preferences::setValue(const QString& key, const std::optional<DockCore::PropertyList>& value) {
-    const std::lock_guard guard(m_lock);
-    m_refused.remove(key);
     if (!value) {
         setAppValue(PreferenceKey(key), nullptr, m_domain);
         return;
@@ -43,7 +41,7 @@ void Preferences::setValue(const QString& key, const std::optional<DockCore::Pro
     const Owner handedOver = makePropertyList(*value);
     // Null would remove the key: a value that cannot be written must leave the old one alone.
     if (!handedOver) {
-        m_refused.insert(key);
+        m_refusedValue = true;
         return;
     }
     setAppValue(PreferenceKey(key), handedOver.borrow(), m_domain);

@@ -3,14 +3,10 @@
 #include "DockCore/Ports/Preferences.h"
 #include "Platform/MacOS/PreferenceName.h"
 
-#include <QSet>
-
-#include <mutex>
-
 namespace MacOS {
 
 /// A preferences domain of the current user through the system's preferences service, never through its file: the
-/// service keeps values in memory and would write over ours. Any thread may call it.
+/// service keeps values in memory and would write over ours. Any thread may call it, one at a time.
 class Preferences final : public DockCore::Preferences {
 public:
     /// The Dock's domain, unless told otherwise.
@@ -22,10 +18,8 @@ public:
 
 private:
     PreferenceDomain m_domain;
-    std::mutex m_lock;
-    /// The keys whose last value could not be handed over, which only `synchronize` can tell: whoever calls it, it is
-    /// told until the key gets a value that can be.
-    QSet<QString> m_refused;
+    /// A value could not be handed over, which only the next `synchronize` can tell.
+    bool m_refusedValue = false;
 };
 
 } // namespace MacOS
