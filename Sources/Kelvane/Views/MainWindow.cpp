@@ -13,7 +13,6 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPalette>
 #include <QQmlApplicationEngine>
 #include <QQmlIncubationController>
 #include <QQuickWindow>
@@ -88,10 +87,9 @@ std::optional<QImage> MainWindow::grab() const {
     const QImage content = m_window->grabWindow();
     if (content.isNull())
         return std::nullopt;
-    const QPalette palette = QGuiApplication::palette();
-    const bool dark = palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
+    const float grey = Appearance::shared().isDark() ? 0.12F : 0.97F;
     QImage image(content.size(), QImage::Format_RGB32);
-    image.fill(QColor::fromRgbF(dark ? 0.12F : 0.97F, dark ? 0.12F : 0.97F, dark ? 0.12F : 0.97F));
+    image.fill(QColor::fromRgbF(grey, grey, grey));
     QPainter(&image).drawImage(image.rect(), content);
     return image;
 }

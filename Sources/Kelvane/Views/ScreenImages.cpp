@@ -1,6 +1,7 @@
 #include "Kelvane/Views/ScreenImages.h"
 
 #include "Kelvane/AppModel.h"
+#include "Kelvane/ViewModels/FirstRunViewModel.h"
 #include "Kelvane/Views/MainWindow.h"
 
 #include <QDir>
@@ -11,7 +12,6 @@ namespace Kelvane {
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int firstRunSteps = 3;
 const QStringList panes = {u"dock"_s, u"usage"_s, u"profiles"_s, u"history"_s, u"settings"_s};
 } // namespace
 
@@ -22,7 +22,7 @@ ScreenImages::ScreenImages(AppModel& model, Desktop& desktop, MainWindow& window
     , m_folder(folder) {
     for (const Desktop::Appearance appearance : {Desktop::Appearance::light, Desktop::Appearance::dark}) {
         const QString suffix = appearance == Desktop::Appearance::light ? u"-light"_s : u"-dark"_s;
-        for (int step = 0; step < firstRunSteps; ++step)
+        for (int step = 0; step <= FirstRunViewModel::lastStep; ++step)
             m_shots.append({u"onboarding-"_s + QString::number(step + 1) + suffix, appearance,
                             AppFacade::Content::firstRun, step});
         for (int pane = 0; pane < panes.size(); ++pane)
