@@ -2,6 +2,7 @@
 
 #include "Support/DockNotation.h"
 #include "Support/FakePlatform.h"
+#include "Support/Files.h"
 #include "Support/FullDisk.h"
 
 #include <QtTest>
@@ -25,6 +26,8 @@ using DockNotation::tiles;
 using Array = PropertyList::Array;
 using Dictionary = PropertyList::Dictionary;
 using Run = Fakes::Processes::Run;
+using Files::contentOf;
+using Files::put;
 
 namespace DockStore = DockCore::DockStore;
 
@@ -47,16 +50,6 @@ std::optional<DockError::Kind> thrownBy(Function function) {
         return error.kind();
     }
     return std::nullopt;
-}
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool put(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "DockCore/Error.h"
 #include "Support/ChildProcess.h"
+#include "Support/Files.h"
 #include "Support/Seeds.h"
 #include "Support/TimeZone.h"
 
@@ -23,11 +24,6 @@ using namespace DockCore;
 using namespace Qt::StringLiterals;
 
 namespace {
-QByteArray content(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 void put(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -54,8 +50,9 @@ private Q_SLOTS:
         const QJsonObject object = {
             {u"b"_s, 1}, {u"a"_s, QJsonArray{u"x"_s}}, {u"C"_s, QJsonObject{{u"z"_s, true}, {u"y"_s, 0.5}}}};
         JSONFile::save(object, path());
-        QCOMPARE(content(path()), "{\n    \"C\": {\n        \"y\": 0.5,\n        \"z\": true\n    },\n    \"a\": [\n"
-                                  "        \"x\"\n    ],\n    \"b\": 1\n}\n");
+        QCOMPARE(Files::contentOf(path()),
+                 "{\n    \"C\": {\n        \"y\": 0.5,\n        \"z\": true\n    },\n    \"a\": [\n"
+                 "        \"x\"\n    ],\n    \"b\": 1\n}\n");
     }
 
     void savingTheSameValueTwiceGivesTheSameBytes() {
@@ -66,10 +63,10 @@ private Q_SLOTS:
             backward.insert(u"com.vendor.%1"_s.arg(99 - i), 99 - i);
         }
         JSONFile::save(forward, path());
-        const QByteArray first = content(path());
+        const QByteArray first = Files::contentOf(path());
         JSONFile::save(backward, path());
         QVERIFY(!first.isEmpty());
-        QCOMPARE(content(path()), first);
+        QCOMPARE(Files::contentOf(path()), first);
     }
 
     void aFileThatHoldsTheValueIsLeftAlone() {
@@ -84,13 +81,13 @@ private Q_SLOTS:
         };
         QVERIFY(!replaced(QJsonArray{1}));
         QVERIFY(replaced(QJsonArray{2}));
-        QCOMPARE(content(path()), "[\n    2\n]\n");
+        QCOMPARE(Files::contentOf(path()), "[\n    2\n]\n");
         // As long, but not the same.
         QVERIFY(replaced(QJsonArray{3}));
         QVERIFY(!replaced(QJsonArray{3}));
         QVERIFY(QFile::remove(path()));
         JSONFile::save(QJsonArray{3}, path());
-        QCOMPARE(content(path()), "[\n    3\n]\n");
+        QCOMPARE(Files::contentOf(path()), "[\n    3\n]\n");
     }
 
     void isReadableByTheUserAlone_data() {
@@ -165,7 +162,7 @@ private Q_SLOTS:
         QFETCH(const QJsonValue, value);
         put(path(), "[\"before\"]");
         QCOMPARE(failure(value, path()), u"“file.json” could not be saved: a number in it cannot be written."_s);
-        QCOMPARE(content(path()), "[\"before\"]");
+        QCOMPARE(Files::contentOf(path()), "[\"before\"]");
     }
 
     void saysWhyItCouldNotSave() {
@@ -198,7 +195,7 @@ private Q_SLOTS:
         const auto sentence = failure(QJsonArray{QString(size, u'x')}, path());
         QVERIFY(sentence);
         QVERIFY2(sentence->startsWith(u"“file.json” could not be saved: "), qPrintable(*sentence));
-        QCOMPARE(content(path()), "[\"before\"]");
+        QCOMPARE(Files::contentOf(path()), "[\"before\"]");
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"file.json"_s});
     }
 

@@ -4,6 +4,7 @@
 #include "DockCore/Paths.h"
 #include "Support/ChildProcess.h"
 #include "Support/FakePlatform.h"
+#include "Support/Files.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,11 +17,6 @@ using namespace DockCore;
 using namespace Qt::StringLiterals;
 
 namespace {
-QByteArray content(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 void put(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -72,15 +68,15 @@ private Q_SLOTS:
 
     void theNextStartReadsThemAndWritesNothing() {
         const ProfileStore first;
-        const QByteArray profiles = content(Paths::profiles());
+        const QByteArray profiles = Files::contentOf(Paths::profiles());
         // A file that were written again would lose this.
         put(Paths::profiles(), profiles + "\n\n");
-        put(Paths::settings(), content(Paths::settings()) + "\n\n");
+        put(Paths::settings(), Files::contentOf(Paths::settings()) + "\n\n");
         const ProfileStore second;
         QCOMPARE(second.profiles, first.profiles);
         QCOMPARE(second.settings, first.settings);
-        QVERIFY(content(Paths::profiles()).endsWith("\n\n"));
-        QVERIFY(content(Paths::settings()).endsWith("\n\n"));
+        QVERIFY(Files::contentOf(Paths::profiles()).endsWith("\n\n"));
+        QVERIFY(Files::contentOf(Paths::settings()).endsWith("\n\n"));
     }
 
     void unreadableSettingsAreReplacedByTheDefaults_data() {
@@ -205,7 +201,7 @@ private Q_SLOTS:
         store.saveSettings();
         store.saveProfiles();
         QVERIFY(store.settings.onboarded);
-        QCOMPARE(content(file), "x");
+        QCOMPARE(Files::contentOf(file), "x");
     }
 
 private:

@@ -4,6 +4,7 @@
 #include "DockCore/JSONFile.h"
 #include "Support/DockNotation.h"
 #include "Support/FakePlatform.h"
+#include "Support/Files.h"
 #include "Support/FullDisk.h"
 
 #include <QJsonArray>
@@ -26,6 +27,8 @@ using DockNotation::apps;
 using DockNotation::tiles;
 using Dictionary = PropertyList::Dictionary;
 using Mark = SnapshotStore::Mark;
+using Files::contentOf;
+using Files::put;
 
 namespace JSONFile = DockCore::JSONFile;
 
@@ -47,16 +50,6 @@ std::optional<QString> failureOf(Function function) {
         return error.description();
     }
     return std::nullopt;
-}
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool put(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
 QStringList ids(const QList<Snapshot>& snapshots) {

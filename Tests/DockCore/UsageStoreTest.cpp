@@ -2,6 +2,7 @@
 
 #include "Support/ChildProcess.h"
 #include "Support/FakePlatform.h"
+#include "Support/Files.h"
 #include "Support/Strictness.h"
 #include "Support/TimeZone.h"
 #include "Support/ValueTraits.h"
@@ -558,10 +559,7 @@ private Q_SLOTS:
 private:
     QDateTime now() const { return m_world->clock.now(); }
     QString path() const { return m_world->directory.filePath(u"usage.json"_s); }
-    QByteArray read() const {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray read() const { return Files::contentOf(path()); }
     void write(const QByteArray& bytes) const {
         QFile file(path());
         QVERIFY(file.open(QIODevice::WriteOnly));

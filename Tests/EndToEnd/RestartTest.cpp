@@ -2,6 +2,7 @@
 #include "DockCore/Platform.h"
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Support/DockNotation.h"
+#include "Support/Files.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -15,6 +16,7 @@ using DockCore::PropertyList;
 using DockNotation::apps;
 using DockNotation::tiles;
 using Dictionary = PropertyList::Dictionary;
+using Files::put;
 
 namespace DockStore = DockCore::DockStore;
 
@@ -22,11 +24,6 @@ namespace {
 
 const QString before = u"a b _ c"_s;
 const QString after = u"c | b /d"_s;
-
-bool put(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
 
 /// A folder in which a process named Dock lives, and is started again whenever it ends, as the system does with the
 /// Dock.

@@ -1,5 +1,7 @@
 #include "Platform/Linux/AutostartLoginItem.h"
 
+#include "Support/Files.h"
+
 #include "Platform/LoginItemContract.h"
 
 #include <QDir>
@@ -27,10 +29,7 @@ class LinuxAutostartLoginItemTest : public LoginItemContract {
         }
 
         QString path() const { return m_config.filePath(u"autostart/org.kelvane.Kelvane.desktop"_s); }
-        QByteArray read() const {
-            QFile file(path());
-            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        }
+        QByteArray read() const { return Files::contentOf(path()); }
         void write(const QByteArray& content) const {
             QDir().mkpath(m_config.filePath(u"autostart"_s));
             QFile file(path());

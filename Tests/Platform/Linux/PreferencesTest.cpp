@@ -1,5 +1,7 @@
 #include "Platform/Linux/Preferences.h"
 
+#include "Support/Files.h"
+
 #include "Platform/Posix/FullDisk.h"
 #include "Platform/PreferencesContract.h"
 
@@ -39,10 +41,7 @@ class LinuxPreferencesTest : public PreferencesContract {
             Q_ASSERT(isOpen);
             file.write(bytes);
         }
-        QByteArray bytes() const {
-            QFile file(path());
-            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        }
+        QByteArray bytes() const { return Files::contentOf(path()); }
         bool set(const char* name, const PropertyList& value) {
             m_preferences.setValue(key(name), value);
             return m_preferences.synchronize();

@@ -1,5 +1,7 @@
 #include "Platform/Posix/UnaskedExit.h"
 
+#include "Support/Files.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -42,10 +44,7 @@ private:
     int statusOf(const QString& moment) const {
         return QProcess::execute(QCoreApplication::applicationFilePath(), {moment, m_file});
     }
-    QByteArray saved() const {
-        QFile file(m_file);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray saved() const { return Files::contentOf(m_file); }
 
     QTemporaryDir m_folder;
     QString m_file = m_folder.filePath(u"saved"_s);
