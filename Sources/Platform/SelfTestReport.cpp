@@ -1,8 +1,11 @@
 #include "Platform/SelfTestReport.h"
 
+#include "DockCore/Ports/Preferences.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using DockCore::PropertyList;
 
 namespace {
 
@@ -47,4 +50,22 @@ QString SelfTestReport::text() const {
     }
     const auto count = [this](Verdict verdict) { return std::ranges::count(m_rows, verdict, &Row::verdict); };
     return result + u"%1 ok, %2 failed\n"_s.arg(count(Verdict::passed)).arg(count(Verdict::failed));
+}
+
+void checkPreferences(SelfTestReport& report, DockCore::Preferences& own) {
+    const QString key = u"SelfTest"_s;
+    const PropertyList value{PropertyList::Dictionary{
+        {u"text"_s, {u"ä€𝄞"_s}},
+        {u"number"_s, {qint64(-1)}},
+        {u"real"_s, {0.5}},
+        {u"truth"_s, {true}},
+        {u"bytes"_s, {QByteArray("\0\xff", 2)}},
+        {u"moment"_s, {PropertyList::Date{.seconds = 1000}}},
+        {u"list"_s, {PropertyList::Array{{u"one"_s}, {PropertyList::Dictionary{}}}}},
+    }};
+    own.setValue(key, value);
+    report.check(own.synchronize(), u"A value of our own is saved"_s);
+    report.check(own.copyValue(key) == value, u"It is read back as it was"_s);
+    own.setValue(key, std::nullopt);
+    report.check(own.synchronize() && !own.copyValue(key), u"It is removed again"_s);
 }

@@ -3,6 +3,10 @@
 #include <QList>
 #include <QString>
 
+namespace DockCore {
+class Preferences;
+}
+
 /// The table of a self-test while it is being filled. It knows nothing of what is tested. One thread.
 class SelfTestReport {
 public:
@@ -29,3 +33,6 @@ private:
     };
     QList<Row> m_rows;
 };
+
+/// Saves a value of every kind in a domain of our own, reads it back and removes it.
+void checkPreferences(SelfTestReport& report, DockCore::Preferences& own);

@@ -34,24 +34,6 @@ void tellDock(SelfTestReport& report) {
     report.add(Verdict::told, u"The Dock's property list"_s, Linux::Preferences::defaultPath() + items);
 }
 
-void checkPreferences(SelfTestReport& report) {
-    const QTemporaryDir folder;
-    Linux::Preferences own(folder.filePath(u"own.plist"_s));
-    const QString key = u"SelfTest"_s;
-    const PropertyList value{PropertyList::Dictionary{
-        {u"text"_s, {u"ä€𝄞"_s}},
-        {u"number"_s, {qint64(-1)}},
-        {u"truth"_s, {true}},
-        {u"bytes"_s, {QByteArray("\0\xff", 2)}},
-        {u"list"_s, {PropertyList::Array{{u"one"_s}, {PropertyList::Dictionary{}}}}},
-    }};
-    own.setValue(key, value);
-    report.check(own.synchronize(), u"A value of our own is saved"_s);
-    report.check(own.copyValue(key) == value, u"It is read back as it was"_s);
-    own.setValue(key, std::nullopt);
-    report.check(own.synchronize() && !own.copyValue(key), u"It is removed again"_s);
-}
-
 void checkMachine(SelfTestReport& report) {
     Linux::Folders folders;
     report.check(!folders.home().isEmpty(), u"The home folder"_s, folders.home());
@@ -70,7 +52,9 @@ void tellSession(SelfTestReport& report) {
     report.add(Verdict::told, u"In front"_s,
                front ? front->bundleID.value_or(front->name.value_or(u"without a name"_s)) : u"nothing"_s);
     const auto idle = workspace.sinceLastInput();
-    report.add(Verdict::told, u"Since the last input"_s, idle ? u"%1 s"_s.arg(idle->count(), 0, 'f', 1) : u"unknown"_s);
+    const bool isSomebodyThere = idle && *idle < std::chrono::duration<double>::max();
+    report.add(Verdict::told, u"Since the last input"_s,
+               isSomebodyThere ? u"%1 s"_s.arg(idle->count(), 0, 'f', 1) : u"unknown"_s);
     report.add(Verdict::told, u"Session bus"_s,
                QDBusConnection::sessionBus().isConnected() ? u"connected"_s : u"none"_s);
 }
@@ -81,7 +65,9 @@ int runSelfTest() {
     SelfTestReport report;
     tellSystem(report);
     tellDock(report);
-    checkPreferences(report);
+    const QTemporaryDir folder;
+    Linux::Preferences own(folder.filePath(u"own.plist"_s));
+    checkPreferences(report, own);
     checkMachine(report);
     tellSession(report);
     QTextStream(stdout) << report.text();

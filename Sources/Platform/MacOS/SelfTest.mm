@@ -92,25 +92,6 @@ void checkDock(SelfTestReport& report) {
     report.check(Posix::Processes().run(u"/usr/bin/pgrep"_s, {u"-x"_s, u"Dock"_s}) == 0, u"The Dock runs"_s);
 }
 
-void checkOwnPreferences(SelfTestReport& report) {
-    const QString key = u"SelfTest"_s;
-    const PropertyList value{PropertyList::Dictionary{
-        {u"text"_s, {u"ä€𝄞"_s}},
-        {u"number"_s, {qint64(-1)}},
-        {u"real"_s, {0.5}},
-        {u"truth"_s, {true}},
-        {u"bytes"_s, {QByteArray("\0\xff", 2)}},
-        {u"moment"_s, {PropertyList::Date{.seconds = 1000}}},
-        {u"list"_s, {PropertyList::Array{{u"one"_s}, {PropertyList::Dictionary{}}}}},
-    }};
-    MacOS::Preferences own(u"org.kelvane.Kelvane"_s);
-    own.setValue(key, value);
-    report.check(own.synchronize(), u"A value of our own is saved"_s);
-    report.check(own.copyValue(key) == value, u"It is read back as it was"_s);
-    own.setValue(key, std::nullopt);
-    report.check(own.synchronize() && !own.copyValue(key), u"It is removed again"_s);
-}
-
 void checkApplications(SelfTestReport& report) {
     MacOS::Bundles bundles;
     const QString finder = u"com.apple.finder"_s;
@@ -163,7 +144,8 @@ int runSelfTest() {
         tellSystem(report);
         checkInterfaces(report);
         checkDock(report);
-        checkOwnPreferences(report);
+        MacOS::Preferences own(u"org.kelvane.Kelvane"_s);
+        checkPreferences(report, own);
         checkApplications(report);
         checkSession(report);
     }
