@@ -88,7 +88,7 @@ private:
     PlatformScope m_scope = PlatformScope(m_platform.platform());
     LinuxDesktop m_desktop;
     AppModel m_model = AppModel(&m_desktop.workspace(), &m_desktop.loginItem());
-    AppDelegate m_delegate = AppDelegate(m_model, m_desktop.desktop());
+    AppDelegate m_delegate = AppDelegate(m_model, m_desktop.desktop(), m_desktop.images());
 };
 
 } // namespace

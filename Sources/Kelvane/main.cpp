@@ -116,7 +116,7 @@ int main(int argc, char** argv) {
     SystemDesktop desktop;
     AppModel model(&desktop.workspace(), &desktop.loginItem());
     CommandRunner runner(model);
-    AppDelegate delegate(model, desktop.desktop());
+    AppDelegate delegate(model, desktop.desktop(), desktop.images());
     const CommandServer server(runner, socket);
     QObject::connect(&server, &CommandServer::showRequested, &delegate, &AppDelegate::showWindow);
     delegate.finishLaunching(arguments.contains(u"--show") ? AppDelegate::Window::show

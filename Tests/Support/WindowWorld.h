@@ -3,6 +3,7 @@
 #include "DockCore/Paths.h"
 #include "Kelvane/Views/MainWindow.h"
 #include "Support/FakeDesktop.h"
+#include "Support/FakeImages.h"
 #include "Support/ModelWorld.h"
 
 #include <QAccessible>
@@ -64,7 +65,7 @@ public:
     }
     void show() {
         QVERIFY(refreshAndWait(*model));
-        window.emplace(*model, desktop);
+        window.emplace(*model, desktop, images);
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(quick()));
         // A new window is there before what it shows.
@@ -129,6 +130,7 @@ public:
     ModelWorld world{QStringList()};
     Fakes::LoginItem login;
     Fakes::Desktop desktop;
+    Fakes::Images images;
     std::optional<Kelvane::AppModel> model;
     std::optional<Kelvane::MainWindow> window;
 

@@ -1,16 +1,12 @@
 #pragma once
 
-#include <QIcon>
-#include <QImage>
 #include <QString>
-
-#include <optional>
 
 class QWindow;
 
 namespace Kelvane {
 
-/// What the application asks of the desktop it shows itself on. Main thread only, but for `applicationIcon`.
+/// What the application asks of the desktop it shows itself on. Main thread only.
 class Desktop {
 public:
     enum class ActivationPolicy { accessory, regular };
@@ -24,10 +20,6 @@ public:
     virtual void setAppearance(Appearance appearance) = 0;
     /// Gives a native window the look of a main window here, and its remembered frame.
     virtual void prepareMainWindow(QWindow& window) = 0;
-    /// The icon of the bundle at `path`, `size` pixels wide; nothing when it has none. Any thread may ask.
-    virtual std::optional<QImage> applicationIcon(const QString& path, int size) = 0;
-    /// The system's own image for a symbol name as a mask; nothing where it has none and ours serves.
-    virtual std::optional<QIcon> symbol(const QString& name, const QString& description) = 0;
     /// Shows the file in the desktop's file manager, selected where it can be.
     virtual void reveal(const QString& path) = 0;
 };

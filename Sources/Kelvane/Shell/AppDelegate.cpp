@@ -21,10 +21,11 @@ using namespace std::chrono_literals;
 constexpr auto launchTime = 3s;
 } // namespace
 
-AppDelegate::AppDelegate(AppModel& model, Desktop& desktop)
+AppDelegate::AppDelegate(AppModel& model, Desktop& desktop, Images& images)
     : m_model(model)
     , m_desktop(desktop)
-    , m_statusMenu(model, [&desktop](const QString& name) { return MenuSymbol::icon(desktop, name); }) {
+    , m_images(images)
+    , m_statusMenu(model, [&images](const QString& name) { return MenuSymbol::icon(images, name); }) {
     connect(&m_statusMenu, &StatusMenu::openRequested, this, &AppDelegate::showWindow);
     connect(&m_statusMenu, &StatusMenu::quitRequested, qApp, &QCoreApplication::quit);
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { m_model.tracker().flush(); });
@@ -55,7 +56,7 @@ void AppDelegate::makeStatusItem() {
     // Without a display no panel will ever take it, and Qt complains when it is offered.
     if (QGuiApplication::platformName() == u"offscreen")
         return;
-    m_statusItem.setIcon(MenuSymbol::icon(m_desktop, u"dock.rectangle"_s, u"Kelvane"_s));
+    m_statusItem.setIcon(MenuSymbol::icon(m_images, u"dock.rectangle"_s, u"Kelvane"_s));
     m_statusItem.setToolTip(u"Kelvane"_s);
     m_statusItem.setContextMenu(&m_statusMenu.menu());
     m_statusItem.show();
@@ -76,7 +77,7 @@ void AppDelegate::makeMainMenu() {
 
 void AppDelegate::makeWindow() {
     makeMainMenu();
-    m_window = std::make_unique<MainWindow>(m_model, m_desktop);
+    m_window = std::make_unique<MainWindow>(m_model, m_desktop, m_images);
     connect(m_window.get(), &MainWindow::becameKey, this, [this] { m_model.refresh(); });
     connect(m_window.get(), &MainWindow::closing, this,
             [this] { m_desktop.setActivationPolicy(Desktop::ActivationPolicy::accessory); });

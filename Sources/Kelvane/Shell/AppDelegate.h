@@ -12,6 +12,7 @@ namespace Kelvane {
 
 class AppModel;
 class Desktop;
+class Images;
 class MainWindow;
 class ScreenImages;
 
@@ -21,7 +22,7 @@ class AppDelegate : public QObject {
     Q_OBJECT
 
 public:
-    AppDelegate(AppModel& model, Desktop& desktop);
+    AppDelegate(AppModel& model, Desktop& desktop, Images& images);
     ~AppDelegate() override;
 
     /// What is done once after launch. The window opens on the first run, and when `window` asks for it.
@@ -39,6 +40,7 @@ private:
 
     AppModel& m_model;
     Desktop& m_desktop;
+    Images& m_images;
     StatusMenu m_statusMenu;
     QSystemTrayIcon m_statusItem;
     std::unique_ptr<MainMenu> m_mainMenu;

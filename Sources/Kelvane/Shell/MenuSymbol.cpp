@@ -1,6 +1,6 @@
 #include "Kelvane/Shell/MenuSymbol.h"
 
-#include "Kelvane/Ports/Desktop.h"
+#include "Kelvane/Ports/Images.h"
 #include "Kelvane/Symbols/SymbolImage.h"
 
 #include <QGuiApplication>
@@ -9,8 +9,8 @@
 
 namespace Kelvane::MenuSymbol {
 
-QIcon icon(Desktop& desktop, const QString& name, const QString& description) {
-    if (const std::optional<QIcon> native = desktop.symbol(name, description))
+QIcon icon(Images& images, const QString& name, const QString& description) {
+    if (const std::optional<QIcon> native = images.symbol(name, description))
         return *native;
     const QColor colour = QGuiApplication::palette().color(QPalette::WindowText);
     QIcon icon;

@@ -1,7 +1,7 @@
 #include "Kelvane/Views/IconProvider.h"
 
 #include "DockCore/AppCatalog.h"
-#include "Kelvane/Ports/Desktop.h"
+#include "Kelvane/Ports/Images.h"
 #include "Kelvane/ViewModels/IconAddress.h"
 #include "Kelvane/Views/StandInIcon.h"
 
@@ -17,14 +17,14 @@ namespace {
 
 constexpr int usualPixels = 64;
 
-QImage icon(Desktop& desktop, const IconAddress& address, int pixels) {
+QImage icon(Images& images, const IconAddress& address, int pixels) {
     QString path = address.path;
     if (path.isEmpty() && !address.bundleID.isEmpty()) {
         if (const std::optional<DockCore::AppInfo> app = DockCore::AppCatalog::shared().info(address.bundleID))
             path = app->path;
     }
     if (!path.isEmpty()) {
-        if (const std::optional<QImage> image = desktop.applicationIcon(path, pixels))
+        if (const std::optional<QImage> image = images.applicationIcon(path, pixels))
             return *image;
     }
     return StandInIcon::draw(address.bundleID.isEmpty() ? address.name : address.bundleID, address.name, pixels);
@@ -51,8 +51,8 @@ private:
 
 } // namespace
 
-IconProvider::IconProvider(Desktop& desktop)
-    : m_desktop(desktop) {
+IconProvider::IconProvider(Images& images)
+    : m_images(images) {
     m_pool.setMaxThreadCount(std::max(1, QThread::idealThreadCount() / 2));
 }
 
@@ -66,7 +66,7 @@ QQuickImageResponse* IconProvider::requestImageResponse(const QString& id, const
     const int pixels = requested > 0 ? requested : usualPixels;
     auto* response = new IconResponse;
     m_pool.start([this, response, address, pixels] {
-        response->finish(response->isCancelled() ? QImage() : icon(m_desktop, address, pixels));
+        response->finish(response->isCancelled() ? QImage() : icon(m_images, address, pixels));
     });
     return response;
 }

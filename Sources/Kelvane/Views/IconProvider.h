@@ -5,22 +5,22 @@
 
 namespace Kelvane {
 
-class Desktop;
+class Images;
 
 /// Icons of applications for QML, by the end of an IconAddress. They are read or drawn in the background; an
 /// application without an icon is shown by its stand-in, so that there is always an image. QML asks on a thread of its
 /// own.
 class IconProvider : public QQuickAsyncImageProvider {
 public:
-    /// The desktop outlives the provider.
-    explicit IconProvider(Desktop& desktop);
+    /// The images outlive the provider.
+    explicit IconProvider(Images& images);
     /// Waits for icons that are being read.
     ~IconProvider() override;
 
     QQuickImageResponse* requestImageResponse(const QString& id, const QSize& requestedSize) override;
 
 private:
-    Desktop& m_desktop;
+    Images& m_images;
     QThreadPool m_pool;
 };
 

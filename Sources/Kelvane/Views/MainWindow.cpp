@@ -32,10 +32,11 @@ namespace {
 constexpr auto longestMaking = 2s;
 } // namespace
 
-MainWindow::MainWindow(AppModel& model, Desktop& desktop)
+MainWindow::MainWindow(AppModel& model, Desktop& desktop, Images& images)
     : m_context{model, desktop}
     , m_scope(m_context)
-    , m_desktop(desktop) {}
+    , m_desktop(desktop)
+    , m_images(images) {}
 
 MainWindow::~MainWindow() {
     if (m_window && m_window->isVisible())
@@ -114,9 +115,9 @@ void MainWindow::make() {
     qml_register_types_Kelvane();
     m_engine = std::make_unique<QQmlApplicationEngine>();
     // The engine owns them and goes first.
-    m_engine->addImageProvider(u"symbol"_s, new SymbolProvider(m_desktop));
+    m_engine->addImageProvider(u"symbol"_s, new SymbolProvider(m_images));
     m_engine->addImageProvider(u"disc"_s, new DiscProvider);
-    m_engine->addImageProvider(u"icon"_s, new IconProvider(m_desktop));
+    m_engine->addImageProvider(u"icon"_s, new IconProvider(m_images));
     m_engine->addImageProvider(u"shadow"_s, new ShadowProvider);
     m_engine->addImportPath(u":/qt/qml"_s);
     m_engine->load(QUrl(u"qrc:/qt/qml/Kelvane/MainWindow.qml"_s));

@@ -15,14 +15,16 @@ class QQuickWindow;
 
 namespace Kelvane {
 
+class Images;
+
 /// The main window. It is made the first time it is shown, with all of QML, and kept when it is closed; where it was is
 /// remembered in the support folder. Destroy it before the application object. Main thread only.
 class MainWindow : public QObject {
     Q_OBJECT
 
 public:
-    /// Model and desktop outlive the window.
-    MainWindow(AppModel& model, Desktop& desktop);
+    /// What it is given outlives the window.
+    MainWindow(AppModel& model, Desktop& desktop, Images& images);
     ~MainWindow() override;
 
     /// Brings the window to the front, wherever it was; the first time it makes it.
@@ -53,6 +55,7 @@ private:
     ViewContext m_context;
     ViewContextScope m_scope;
     Desktop& m_desktop;
+    Images& m_images;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QPointer<QQuickWindow> m_window;
 };

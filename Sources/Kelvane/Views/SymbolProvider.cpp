@@ -1,6 +1,6 @@
 #include "Kelvane/Views/SymbolProvider.h"
 
-#include "Kelvane/Ports/Desktop.h"
+#include "Kelvane/Ports/Images.h"
 #include "Kelvane/Symbols/SymbolImage.h"
 
 #include <QPainter>
@@ -34,9 +34,9 @@ QImage tinted(const QIcon& mask, int pixels, const QColor& tint) {
 
 } // namespace
 
-SymbolProvider::SymbolProvider(Desktop& desktop)
+SymbolProvider::SymbolProvider(Images& images)
     : QQuickImageProvider(Image)
-    , m_desktop(desktop) {}
+    , m_images(images) {}
 
 QImage SymbolProvider::requestImage(const QString& id, QSize* size, const QSize& requestedSize) {
     const int pixels = std::max(requestedSize.width(), requestedSize.height());
@@ -54,7 +54,7 @@ QImage SymbolProvider::image(const QString& id, int pixels) {
     const QColor tint(colour);
     // The tiny discs have marks of their own, drawn for that size.
     if (id.section(u'/', 1, 1) != u"mark"_s) {
-        if (const std::optional<QIcon> mask = m_desktop.symbol(name, QString()))
+        if (const std::optional<QIcon> mask = m_images.symbol(name, QString()))
             return tinted(*mask, pixels, tint);
     }
     return SymbolImage::tinted(name, weight(id.section(u'/', 1, 1)), pixels, tint);

@@ -1,8 +1,5 @@
 #include "Platform/Linux/Desktop.h"
 
-#include "Platform/Linux/FileContent.h"
-#include "Platform/Linux/IconFile.h"
-
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -23,7 +20,6 @@ namespace Linux {
 namespace {
 
 constexpr int bodyPixels = 13;
-constexpr qint64 largestIcon = 32LL * 1024 * 1024;
 
 /// What Qt's own dialogs and menus are drawn with; the window has colours of its own and asks only which of the two.
 QPalette palette(bool dark) {
@@ -64,15 +60,6 @@ void Desktop::setAppearance(Appearance appearance) {
 }
 
 void Desktop::prepareMainWindow(QWindow&) {}
-
-std::optional<QImage> Desktop::applicationIcon(const QString& path, int size) {
-    const std::optional<QString> file = IconFile::inBundle(path);
-    return file ? IconFile::read(FileContent::of(*file, largestIcon).bytes, size) : std::nullopt;
-}
-
-std::optional<QIcon> Desktop::symbol(const QString&, const QString&) {
-    return std::nullopt;
-}
 
 void Desktop::reveal(const QString& path) {
     const QFileInfo file(path);

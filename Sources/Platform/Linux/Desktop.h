@@ -16,9 +16,6 @@ public:
     void setAppearance(Appearance appearance) override;
     /// There is nothing to do: the frame is the window manager's.
     void prepareMainWindow(QWindow& window) override;
-    std::optional<QImage> applicationIcon(const QString& path, int size) override;
-    /// Ours always serve.
-    std::optional<QIcon> symbol(const QString& name, const QString& description) override;
     void reveal(const QString& path) override;
 
 private:

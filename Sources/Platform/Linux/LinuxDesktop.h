@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/AutostartLoginItem.h"
 #include "Platform/Linux/Desktop.h"
+#include "Platform/Linux/Images.h"
 #include "Platform/Linux/X11Workspace.h"
 
 /// The application's ports on Linux: owns one adapter a port. Made after the application object, by `main` alone.
@@ -14,9 +15,11 @@ public:
     Kelvane::Workspace& workspace() { return m_workspace; }
     Kelvane::LoginItem& loginItem() { return m_loginItem; }
     Kelvane::Desktop& desktop() { return m_desktop; }
+    Kelvane::Images& images() { return m_images; }
 
 private:
     Linux::X11Workspace m_workspace;
     Linux::AutostartLoginItem m_loginItem;
     Linux::Desktop m_desktop;
+    Linux::Images m_images;
 };

@@ -8,7 +8,7 @@ namespace MacOS {
 
 class NotificationObservers;
 
-/// The desktop through AppKit. Main thread only, but for `applicationIcon`.
+/// The desktop through AppKit. Main thread only.
 class Desktop final : public Kelvane::Desktop {
 public:
     /// Keeps the application's "reducedMotion" in step with the user's setting from now on.
@@ -19,9 +19,6 @@ public:
     void setActivationPolicy(ActivationPolicy policy) override;
     void setAppearance(Appearance appearance) override;
     void prepareMainWindow(QWindow& window) override;
-    std::optional<QImage> applicationIcon(const QString& path, int size) override;
-    /// As large as a symbol in the menu bar, for plain and for dense screens.
-    std::optional<QIcon> symbol(const QString& name, const QString& description) override;
     void reveal(const QString& path) override;
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/MacOS/Desktop.h"
+#include "Platform/MacOS/Images.h"
 #include "Platform/MacOS/LoginItem.h"
 #include "Platform/MacOS/Workspace.h"
 
@@ -14,9 +15,11 @@ public:
     Kelvane::Workspace& workspace() { return m_workspace; }
     Kelvane::LoginItem& loginItem() { return m_loginItem; }
     Kelvane::Desktop& desktop() { return m_desktop; }
+    Kelvane::Images& images() { return m_images; }
 
 private:
     MacOS::Workspace m_workspace;
     MacOS::LoginItem m_loginItem;
     MacOS::Desktop m_desktop;
+    MacOS::Images m_images;
 };

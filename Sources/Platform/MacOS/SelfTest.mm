@@ -2,8 +2,8 @@
 
 #include "DockCore/PropertyList.h"
 #include "Platform/MacOS/Bundles.h"
-#include "Platform/MacOS/Desktop.h"
 #include "Platform/MacOS/Folders.h"
+#include "Platform/MacOS/Images.h"
 #include "Platform/MacOS/LoginItem.h"
 #include "Platform/MacOS/Metadata.h"
 #include "Platform/MacOS/Preferences.h"
@@ -100,7 +100,7 @@ void checkApplications(SelfTestReport& report) {
     if (path) {
         report.check(bundles.identifier(*path) == finder, u"Its bundle has its identifier"_s);
         report.check(!bundles.displayName(*path).isEmpty(), u"It has a display name"_s, bundles.displayName(*path));
-        report.check(MacOS::Desktop().applicationIcon(*path, 64).has_value(), u"It has an icon"_s);
+        report.check(MacOS::Images().applicationIcon(*path, 64).has_value(), u"It has an icon"_s);
     }
 
     MacOS::Folders folders;

@@ -27,7 +27,7 @@ private Q_SLOTS:
     }
 
     void theFirstRunOpensTheWindow() {
-        delegate.emplace(*mac->model, mac->desktop);
+        delegate.emplace(*mac->model, mac->desktop, mac->images);
         delegate->finishLaunching(AppDelegate::Window::onFirstRun);
         QCOMPARE(mac->desktop.policies, (QList{Policy::accessory, Policy::regular}));
         QVERIFY(mac->quick() != nullptr);
@@ -61,7 +61,7 @@ private Q_SLOTS:
 private:
     void launch(AppDelegate::Window window) {
         mac->model->finishOnboarding(AppModel::Apply::no);
-        delegate.emplace(*mac->model, mac->desktop);
+        delegate.emplace(*mac->model, mac->desktop, mac->images);
         delegate->finishLaunching(window);
     }
 

@@ -176,13 +176,13 @@ private Q_SLOTS:
 
     void aWindowThatIsNotThereGivesNoPicture() {
         WindowWorld mac;
-        mac.window.emplace(*mac.model, mac.desktop);
+        mac.window.emplace(*mac.model, mac.desktop, mac.images);
         QVERIFY(!mac.window->grab());
     }
 
     void picturesAreNamedAndOrdered() {
         WindowWorld mac;
-        mac.window.emplace(*mac.model, mac.desktop);
+        mac.window.emplace(*mac.model, mac.desktop, mac.images);
         const QTemporaryDir folder;
         const ScreenImages images(*mac.model, mac.desktop, *mac.window, folder.path());
         QCOMPARE(images.names().join(u' '),

@@ -80,7 +80,7 @@ void PicturesTest::initTestCase() {
     QVERIFY(refreshAndWait(*mac.model));
 
     ColouredDesktop desktop;
-    mac.window.emplace(*mac.model, desktop);
+    mac.window.emplace(*mac.model, desktop, mac.images);
     ScreenImages images(*mac.model, desktop, *mac.window, m_folder.path());
     m_names = images.names();
     QSignalSpy finished(&images, &ScreenImages::finished);

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Kelvane/Ports/Images.h"
+
+namespace Linux {
+
+/// The pictures in bundles on a Linux desktop, which has no others of its own.
+class Images : public Kelvane::Images {
+public:
+    std::optional<QImage> applicationIcon(const QString& path, int size) override;
+    /// Ours always serve.
+    std::optional<QIcon> symbol(const QString& name, const QString& description) override;
+};
+
+} // namespace Linux
