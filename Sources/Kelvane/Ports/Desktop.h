@@ -20,6 +20,8 @@ public:
     virtual void setAppearance(Appearance appearance) = 0;
     /// Gives a native window the look of a main window here, and its remembered frame.
     virtual void prepareMainWindow(QWindow& window) = 0;
+    /// Shows the system's own panel about the application; false where it has none and ours serves.
+    virtual bool showAboutPanel() = 0;
     /// Shows the file in the desktop's file manager, selected where it can be.
     virtual void reveal(const QString& path) = 0;
 };

@@ -100,6 +100,8 @@ void AppDelegate::reopen(Qt::ApplicationState state) {
 }
 
 void AppDelegate::showAbout() {
+    if (m_desktop.showAboutPanel())
+        return;
     QMessageBox::about(nullptr, u"About Kelvane"_s,
                        u"<b>Kelvane %1</b><p>Keeps the Dock in step with how you work.</p>"_s.arg(
                            QCoreApplication::applicationVersion()));

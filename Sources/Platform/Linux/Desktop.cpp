@@ -61,6 +61,10 @@ void Desktop::setAppearance(Appearance appearance) {
 
 void Desktop::prepareMainWindow(QWindow&) {}
 
+bool Desktop::showAboutPanel() {
+    return false;
+}
+
 void Desktop::reveal(const QString& path) {
     const QFileInfo file(path);
     // The file may not be there yet; its folder is.

@@ -16,6 +16,8 @@ public:
     void setAppearance(Appearance appearance) override;
     /// There is nothing to do: the frame is the window manager's.
     void prepareMainWindow(QWindow& window) override;
+    /// There is none.
+    bool showAboutPanel() override;
     void reveal(const QString& path) override;
 
 private:

@@ -19,6 +19,8 @@ public:
     void setActivationPolicy(ActivationPolicy policy) override;
     void setAppearance(Appearance appearance) override;
     void prepareMainWindow(QWindow& window) override;
+    /// It takes what it says from the bundle's Info.plist.
+    bool showAboutPanel() override;
     void reveal(const QString& path) override;
 
 private:

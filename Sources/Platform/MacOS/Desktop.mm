@@ -69,6 +69,13 @@ void Desktop::prepareMainWindow(QWindow& window) {
     }
 }
 
+bool Desktop::showAboutPanel() {
+    @autoreleasepool {
+        [NSApplication.sharedApplication orderFrontStandardAboutPanel:nil];
+    }
+    return true;
+}
+
 void Desktop::reveal(const QString& path) {
     if (path.isEmpty()) {
         return;

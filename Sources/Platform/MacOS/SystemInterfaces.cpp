@@ -30,6 +30,7 @@ constexpr SystemInterface all[] = {
     {Kind::instanceMethod, "NSApplication", "activate", 14},
     {Kind::instanceMethod, "NSApplication", "activateIgnoringOtherApps:"},
     {Kind::instanceMethod, "NSApplication", "appearance"},
+    {Kind::instanceMethod, "NSApplication", "orderFrontStandardAboutPanel:"},
     {Kind::instanceMethod, "NSApplication", "setActivationPolicy:"},
     {Kind::instanceMethod, "NSApplication", "setAppearance:"},
     {Kind::instanceMethod, "NSArray", "firstObject"},

@@ -3,10 +3,14 @@
 #include "Support/WindowWorld.h"
 
 #include <QApplication>
+#include <QMenu>
+#include <QMessageBox>
 #include <QTest>
+#include <QTimer>
 
 using namespace Kelvane;
 using namespace Fakes;
+using namespace Qt::StringLiterals;
 using Policy = Kelvane::Desktop::ActivationPolicy;
 
 /// The application's life on a desktop that remembers what it was asked.
@@ -58,7 +62,52 @@ private Q_SLOTS:
         QVERIFY(mac->quick() != nullptr);
     }
 
+    void aboutIsTheSystemsPanelWhereItHasOne_data() {
+        QTest::addColumn<bool>("hasPanel");
+        QTest::addColumn<int>("panels");
+        QTest::addColumn<QStringList>("boxes");
+        QTest::newRow("the system's panel, and no box of ours") << true << 1 << QStringList();
+        QTest::newRow("a box of ours, with the version")
+            << false << 0 << QStringList{u"<b>Kelvane 1.2.3</b><p>Keeps the Dock in step with how you work.</p>"_s};
+    }
+    void aboutIsTheSystemsPanelWhereItHasOne() {
+        QFETCH(bool, hasPanel);
+        mac->desktop.hasAboutPanel = hasPanel;
+        launch(AppDelegate::Window::show);
+        QAction* about = menuItem(u"About Kelvane"_s);
+        QVERIFY(about != nullptr);
+        // A box keeps whoever opened it waiting until it is closed.
+        QStringList boxes;
+        bool hasLooked = false;
+        QTimer::singleShot(0, this, [&] {
+            for (QWidget* widget : QApplication::topLevelWidgets()) {
+                if (auto* box = qobject_cast<QMessageBox*>(widget); box != nullptr && box->isVisible()) {
+                    boxes.append(box->text());
+                    box->close();
+                }
+            }
+            hasLooked = true;
+        });
+        about->trigger();
+        QVERIFY(QTest::qWaitFor([&] { return hasLooked; }));
+        QTEST(mac->desktop.aboutPanels, "panels");
+        QTEST(boxes, "boxes");
+    }
+
 private:
+    /// The item of the main menu with this title; null when there is none.
+    static QAction* menuItem(const QString& title) {
+        for (QWidget* widget : QApplication::allWidgets()) {
+            if (auto* menu = qobject_cast<QMenu*>(widget); menu != nullptr) {
+                for (QAction* action : menu->actions()) {
+                    if (action->text() == title)
+                        return action;
+                }
+            }
+        }
+        return nullptr;
+    }
+
     void launch(AppDelegate::Window window) {
         mac->model->finishOnboarding(AppModel::Apply::no);
         delegate.emplace(*mac->model, mac->desktop, mac->images);
@@ -73,6 +122,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     const QApplication application(argc, argv);
+    QApplication::setApplicationVersion(u"1.2.3"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     AppDelegateTest test;
     return QTest::qExec(&test, argc, argv);

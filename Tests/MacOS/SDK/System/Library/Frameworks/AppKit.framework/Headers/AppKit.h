@@ -27,6 +27,7 @@ constexpr NSApplicationActivationPolicy NSApplicationActivationPolicyAccessory =
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy;              // nsapplication/setactivationpolicy(_:)
 - (void)activate API_AVAILABLE(macos(14.0));                                    // nsapplication/activate()
 - (void)activateIgnoringOtherApps:(BOOL)ignoringOthers;                         // nsapplication/activate(ignoringotherapps:)
+- (void)orderFrontStandardAboutPanel:(nullable id)sender;                       // nsapplication/orderfrontstandardaboutpanel(_:)
 @end
 
 @interface NSRunningApplication : NSObject                             // nsrunningapplication
