@@ -2,6 +2,7 @@
 
 #include "Kelvane/AppModel.h"
 #include "Kelvane/Ports/Desktop.h"
+#include "Kelvane/Ports/Images.h"
 #include "Kelvane/ViewModels/Appearance.h"
 #include "Kelvane/Views/DiscProvider.h"
 #include "Kelvane/Views/IconProvider.h"
@@ -89,8 +90,11 @@ std::optional<QImage> MainWindow::grab() const {
     if (content.isNull())
         return std::nullopt;
     const float grey = Appearance::shared().isDark() ? 0.12F : 0.97F;
+    const QColor background = QColor::fromRgbF(grey, grey, grey);
+    if (std::optional<QImage> whole = m_images.windowPicture(*m_window, content, background))
+        return whole;
     QImage image(content.size(), QImage::Format_RGB32);
-    image.fill(QColor::fromRgbF(grey, grey, grey));
+    image.fill(background);
     QPainter(&image).drawImage(image.rect(), content);
     return image;
 }

@@ -32,7 +32,8 @@ public:
     void close();
     void minimize();
     bool isVisible() const;
-    /// What the window shows now, in its screen's resolution, on the gray of its appearance; nothing without a window.
+    /// What the window shows now, in its screen's resolution, on the gray of its appearance, under its title bar where
+    /// the system draws it; nothing without a window.
     std::optional<QImage> grab() const;
     /// Shows the panes or the first run whatever the settings say, for pictures.
     void setContent(AppFacade::Content content);

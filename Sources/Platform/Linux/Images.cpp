@@ -18,4 +18,8 @@ std::optional<QIcon> Images::symbol(const QString&, const QString&) {
     return std::nullopt;
 }
 
+std::optional<QImage> Images::windowPicture(QWindow&, const QImage&, const QColor&) {
+    return std::nullopt;
+}
+
 } // namespace Linux

@@ -10,6 +10,8 @@ public:
     std::optional<QImage> applicationIcon(const QString& path, int size) override;
     /// Ours always serve.
     std::optional<QIcon> symbol(const QString& name, const QString& description) override;
+    /// There is none: the title bar is the window manager's.
+    std::optional<QImage> windowPicture(QWindow& window, const QImage& content, const QColor& background) override;
 };
 
 } // namespace Linux

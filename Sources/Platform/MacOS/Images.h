@@ -10,6 +10,7 @@ public:
     std::optional<QImage> applicationIcon(const QString& path, int size) override;
     /// As large as a symbol in the menu bar, for plain and for dense screens.
     std::optional<QIcon> symbol(const QString& name, const QString& description) override;
+    std::optional<QImage> windowPicture(QWindow& window, const QImage& content, const QColor& background) override;
 };
 
 } // namespace MacOS

@@ -1,12 +1,19 @@
 #include "Platform/MacOS/Images.h"
 
 #include "Platform/MacOS/ImageDrawing.h"
+#include "Platform/MacOS/Owner.h"
 
 #include <QPixmap>
+#include <QWindow>
 
 #import <AppKit/AppKit.h>
+#import <QuartzCore/QuartzCore.h>
 
 namespace MacOS {
+
+namespace {
+constexpr CGFloat scaleWithoutScreen = 2;
+} // namespace
 
 std::optional<QImage> Images::applicationIcon(const QString& path, int size) {
     @autoreleasepool {
@@ -40,6 +47,32 @@ std::optional<QIcon> Images::symbol(const QString& name, const QString& descript
         }
         icon.setIsMask(true);
         return icon;
+    }
+}
+
+std::optional<QImage> Images::windowPicture(QWindow& window, const QImage& content, const QColor& background) {
+    @autoreleasepool {
+        auto* view = (__bridge NSView*)reinterpret_cast<void*>(window.winId());
+        NSView* frame = view.superview;
+        CALayer* whole = frame.layer;
+        CALayer* behind = view.layer;
+        const Owner<CGImageRef> pixels(content.toCGImage());
+        if (whole == nil || behind == nil || !pixels) {
+            return std::nullopt;
+        }
+        // What the graphics processor draws cannot be drawn from its layer; a layer with the same pixels, between it
+        // and the title bar, can. It is gone again before the screen is drawn.
+        CALayer* front = [[CALayer alloc] init];
+        front.contents = (__bridge id)pixels.borrow();
+        front.frame = behind.frame;
+        [behind.superlayer insertSublayer:front above:behind];
+        const CGFloat scale = view.window.screen == nil ? scaleWithoutScreen : view.window.backingScaleFactor;
+        const QImage picture = draw(whole, frame.bounds.size, scale, background);
+        [front removeFromSuperlayer];
+        if (picture.isNull()) {
+            return std::nullopt;
+        }
+        return picture;
     }
 }
 

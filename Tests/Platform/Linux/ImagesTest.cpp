@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -44,7 +45,13 @@ private Q_SLOTS:
         const auto computer = makeComputer();
         QVERIFY(!computer->images().applicationIcon(u"/nowhere/Gone.app"_s, 32));
     }
+
+    void aWindowIsItsContentAlone() {
+        const auto computer = makeComputer();
+        QWindow window;
+        QVERIFY(!computer->images().windowPicture(window, QImage(8, 8, QImage::Format_RGB32), Qt::gray));
+    }
 };
 
-QTEST_GUILESS_MAIN(LinuxImagesTest)
+QTEST_MAIN(LinuxImagesTest)
 #include "ImagesTest.moc"

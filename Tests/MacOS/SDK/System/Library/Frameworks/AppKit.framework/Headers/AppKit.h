@@ -7,7 +7,7 @@
 // Every path below starts with "appkit/".
 CF_ASSUME_NONNULL_BEGIN
 
-@class NSAppearance, NSImage, NSWindow;
+@class CALayer, NSAppearance, NSImage, NSScreen, NSWindow;
 
 typedef NSString* NSAppearanceName;                                              // nsappearance/name-swift.struct
 extern "C" NSAppearanceName const NSAppearanceNameAqua API_AVAILABLE(macos(10.9));         // nsappearance/name-swift.struct/aqua
@@ -86,6 +86,9 @@ API_AVAILABLE(macos(11.0)) @interface NSImageSymbolConfiguration : NSObject     
 
 @interface NSView : NSObject                                    // nsview
 @property(nullable, readonly, unsafe_unretained) NSWindow* window; // nsview/window
+@property(nullable, readonly, unsafe_unretained) NSView* superview; // nsview/superview
+@property NSRect bounds;                                        // nsview/bounds
+@property(nullable, strong) CALayer* layer;                     // nsview/layer
 @end
 
 typedef NSUInteger NSWindowStyleMask;                                              // nswindow/stylemask-swift.struct
@@ -97,6 +100,8 @@ constexpr NSWindowToolbarStyle NSWindowToolbarStyleUnified = 3;                 
 @property NSWindowStyleMask styleMask;                                             // nswindow/stylemask-swift.property
 @property BOOL titlebarAppearsTransparent API_AVAILABLE(macos(10.10));             // nswindow/titlebarappearstransparent
 @property NSWindowToolbarStyle toolbarStyle API_AVAILABLE(macos(11.0));            // nswindow/toolbarstyle-swift.property
+@property(nullable, readonly, strong) NSScreen* screen;                            // nswindow/screen
+@property(readonly) CGFloat backingScaleFactor;                                    // nswindow/backingscalefactor
 - (void)setContentSize:(NSSize)size;                                                // nswindow/setcontentsize(_:)
 - (BOOL)setFrameUsingName:(NSString*)name;                                         // nswindow/setframeusingname(_:)
 - (BOOL)setFrameAutosaveName:(NSString*)name;                                      // nswindow/setframeautosavename(_:)

@@ -31,6 +31,7 @@ typedef struct CGRect CGRect;   // cgrect
 
 typedef struct CGColorSpace* CGColorSpaceRef; // cgcolorspace
 typedef struct CGContext* CGContextRef;       // cgcontext
+typedef struct CGImage* CGImageRef;           // cgimage
 
 extern const CFStringRef kCGColorSpaceSRGB API_AVAILABLE(macos(10.5));                                          // cgcolorspace/srgb
 CGColorSpaceRef _Nullable CGColorSpaceCreateWithName(CFStringRef name) CF_RETURNS_RETAINED;                     // cgcolorspace/init(name:)
@@ -41,6 +42,7 @@ constexpr CGBitmapInfo kCGBitmapByteOrder32Host = 2u << 12u;   // cgbitmapinfo/b
 CGContextRef _Nullable CGBitmapContextCreate(void* _Nullable data, std::size_t width, std::size_t height,
                                              std::size_t bitsPerComponent, std::size_t bytesPerRow,
                                              CGColorSpaceRef _Nullable space, CGBitmapInfo bitmapInfo) CF_RETURNS_RETAINED; // cgcontext/init(data:width:height:bitspercomponent:bytesperrow:space:bitmapinfo:)
+void CGContextScaleCTM(CGContextRef context, CGFloat x, CGFloat y); // cgcontext/scaleby(x:y:)
 
 typedef std::int32_t CGEventSourceStateID;                                     // cgeventsourcestateid
 constexpr CGEventSourceStateID kCGEventSourceStateCombinedSessionState = 0;    // cgeventsourcestateid/combinedsessionstate
