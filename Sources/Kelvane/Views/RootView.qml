@@ -6,8 +6,10 @@ import Kelvane
 FocusScope {
     id: root
 
-    readonly property bool firstRun: App.firstRun
-    property bool opened: false
+    // What shows, which follows what is chosen.
+    property bool firstRun: false
+
+    Component.onCompleted: root.firstRun = App.firstRun
 
     Sidebar {
         id: sidebar
@@ -20,28 +22,12 @@ FocusScope {
         width: root.width - x
         height: root.height
 
-        Loader {
-            id: content
+        Content {
             objectName: "content"
             anchors.fill: parent
             source: App.contentSource
-            // A new window is there before what it shows.
-            asynchronous: !root.opened
             focus: true
-            onLoaded: {
-                root.opened = true;
-                fade.restart();
-            }
-
-            NumberAnimation {
-                id: fade
-                target: content
-                property: "opacity"
-                from: 0
-                to: 1
-                duration: Theme.fadeTime
-                easing.type: Easing.OutQuad
-            }
+            onTurned: root.firstRun = App.firstRun
         }
         Toast {
             anchors.horizontalCenter: parent.horizontalCenter

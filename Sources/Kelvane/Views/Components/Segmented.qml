@@ -32,7 +32,7 @@ FocusScope {
     }
     Rectangle {
         id: thumb
-        readonly property Item current: root.currentIndex < segments.count ? segments.itemAt(root.currentIndex) : null
+        readonly property Item current: root.currentIndex < segments.made ? segments.itemAt(root.currentIndex) : null
         x: row.x + (thumb.current?.x ?? 0)
         y: row.y
         width: thumb.current?.width ?? 0
@@ -51,7 +51,11 @@ FocusScope {
 
         Repeater {
             id: segments
+            // A pane that is made piece by piece counts its segments before it has them.
+            property int made: 0
             model: root.options
+            onItemAdded: segments.made += 1
+            onItemRemoved: segments.made -= 1
             delegate: T.RadioButton {
                 id: segment
 

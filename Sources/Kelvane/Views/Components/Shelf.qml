@@ -14,6 +14,8 @@ Rectangle {
     property string highlight: ""
     readonly property TileView pointed: pointer.hovered ? root.tileAt(pointer.point.position) : null
     readonly property color plate: root.suggested ? Theme.surface : Theme.shelf
+    // A tile is seen to arrive when it joins those that were there from the start.
+    property bool joined: false
     // A suggestion follows an edit at once; the Dock as it is takes its new order visibly.
     readonly property int moveTime: root.suggested ? Theme.tileTime : Theme.applyTime
     readonly property int moveCurve: root.suggested ? Easing.OutCubic : Easing.InOutCubic
@@ -29,6 +31,12 @@ Rectangle {
     border.color: Theme.line
     Accessible.role: Accessible.List
 
+    Connections {
+        target: root.tiles as QtObject
+        function onRowsInserted() {
+            root.joined = true;
+        }
+    }
     TileMetrics {
         id: tileMetrics
         plateWidth: root.width
@@ -66,6 +74,7 @@ Rectangle {
             NumberAnimation { property: "presence"; to: 1; duration: root.moveTime; easing.type: root.moveCurve }
         }
         add: Transition {
+            enabled: root.joined
             NumberAnimation { property: "presence"; from: 0; to: 1; duration: root.moveTime; easing.type: root.moveCurve }
         }
     }
