@@ -76,8 +76,8 @@ void AppDelegate::makeMainMenu() {
 }
 
 void AppDelegate::makeWindow() {
-    makeMainMenu();
     m_window = std::make_unique<MainWindow>(m_model, m_desktop, m_images);
+    makeMainMenu();
     connect(m_window.get(), &MainWindow::becameKey, this, [this] { m_model.refresh(); });
     connect(m_window.get(), &MainWindow::closing, this,
             [this] { m_desktop.setActivationPolicy(Desktop::ActivationPolicy::accessory); });

@@ -15,6 +15,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QQmlApplicationEngine>
+#include <QQmlComponent>
 #include <QQmlIncubationController>
 #include <QQuickWindow>
 #include <QScreen>
@@ -31,13 +32,24 @@ using namespace std::chrono_literals;
 namespace {
 /// A pane takes a tenth of a second.
 constexpr auto longestMaking = 2s;
+const QUrl source = QUrl(u"qrc:/qt/qml/Kelvane/MainWindow.qml"_s);
 } // namespace
 
 MainWindow::MainWindow(AppModel& model, Desktop& desktop, Images& images)
     : m_context{model, desktop}
     , m_scope(m_context)
     , m_desktop(desktop)
-    , m_images(images) {}
+    , m_images(images) {
+    qml_register_types_Kelvane();
+    m_engine = std::make_unique<QQmlApplicationEngine>();
+    // The engine owns them and goes first.
+    m_engine->addImageProvider(u"symbol"_s, new SymbolProvider(m_images));
+    m_engine->addImageProvider(u"disc"_s, new DiscProvider);
+    m_engine->addImageProvider(u"icon"_s, new IconProvider(m_images));
+    m_engine->addImageProvider(u"shadow"_s, new ShadowProvider);
+    m_engine->addImportPath(u":/qt/qml"_s);
+    m_types = std::make_unique<QQmlComponent>(m_engine.get(), source, QQmlComponent::Asynchronous);
+}
 
 MainWindow::~MainWindow() {
     if (m_window && m_window->isVisible())
@@ -116,15 +128,10 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::make() {
-    qml_register_types_Kelvane();
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    // The engine owns them and goes first.
-    m_engine->addImageProvider(u"symbol"_s, new SymbolProvider(m_images));
-    m_engine->addImageProvider(u"disc"_s, new DiscProvider);
-    m_engine->addImageProvider(u"icon"_s, new IconProvider(m_images));
-    m_engine->addImageProvider(u"shadow"_s, new ShadowProvider);
-    m_engine->addImportPath(u":/qt/qml"_s);
-    m_engine->load(QUrl(u"qrc:/qt/qml/Kelvane/MainWindow.qml"_s));
+    // The fonts are found while the types are still being read.
+    static_cast<void>(Appearance::shared().textScale());
+    m_engine->load(source);
+    m_types.reset();
     if (m_engine->rootObjects().isEmpty())
         return;
     m_window = qobject_cast<QQuickWindow*>(m_engine->rootObjects().constFirst());

@@ -11,6 +11,7 @@
 #include <optional>
 
 class QQmlApplicationEngine;
+class QQmlComponent;
 class QQuickWindow;
 
 namespace Kelvane {
@@ -23,7 +24,8 @@ class MainWindow : public QObject {
     Q_OBJECT
 
 public:
-    /// What it is given outlives the window.
+    /// What it is given outlives the window. A thread begins to read what the window is made of; what else there is to
+    /// do before it is shown is best done meanwhile.
     MainWindow(AppModel& model, Desktop& desktop, Images& images);
     ~MainWindow() override;
 
@@ -58,6 +60,7 @@ private:
     Desktop& m_desktop;
     Images& m_images;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
+    std::unique_ptr<QQmlComponent> m_types;
     QPointer<QQuickWindow> m_window;
 };
 
