@@ -1,37 +1,60 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Templates as T
 import Kelvane
 
-// One row of the sidebar; choosing it shows its pane.
-T.TabButton {
+// One row of the sidebar; choosing it shows its pane. It is no control of the templates', so that a window's first
+// frame need not wait for them.
+Item {
     id: root
 
     required property string pane
     required property string symbol
+    required property string text
     readonly property bool current: App.pane === root.pane
+    // The ring shows where the keys go, to those who use them.
+    property bool byPointer: false
+
+    function choose() {
+        App.pane = root.pane;
+    }
 
     implicitWidth: 180
     implicitHeight: Math.max(32, label.implicitHeight + 8)
-    focusPolicy: Qt.StrongFocus
-    checkable: false
-    checked: root.current
-    onClicked: App.pane = root.pane
+    activeFocusOnTab: true
+    onActiveFocusChanged: if (!activeFocus) root.byPointer = false
+    Accessible.role: Accessible.PageTab
     Accessible.name: root.text
+    Accessible.focusable: true
+    Accessible.selectable: true
     Accessible.selected: root.current
-    Accessible.onPressAction: root.clicked()
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
+    Accessible.onPressAction: root.choose()
+    Keys.onPressed: root.byPointer = false
+    Keys.onReturnPressed: root.choose()
+    Keys.onEnterPressed: root.choose()
+    Keys.onSpacePressed: root.choose()
     Keys.onDownPressed: root.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
     Keys.onUpPressed: root.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
-    background: Rectangle {
+    Rectangle {
+        anchors.fill: parent
         radius: 8
-        color: root.current || root.down ? Theme.selected : root.hovered ? Theme.hover : Theme.clear
+        color: root.current || press.pressed ? Theme.selected : hover.hovered ? Theme.hover : Theme.clear
         Behavior on color { ColorAnimation { duration: Theme.colourTime } }
         FocusRing {
-            shown: root.visualFocus
+            shown: root.activeFocus && !root.byPointer
             edge: true
+        }
+    }
+    HoverHandler {
+        id: hover
+    }
+    TapHandler {
+        id: press
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: {
+            root.byPointer = true;
+            root.forceActiveFocus(Qt.MouseFocusReason);
+            root.choose();
         }
     }
     Symbol {
