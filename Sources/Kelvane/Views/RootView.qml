@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Window
 import Kelvane
 
 // The content of the main window: the sidebar with the chosen pane, or the first run, and over both the toast.
@@ -8,8 +9,18 @@ FocusScope {
 
     // What shows, which follows what is chosen.
     property bool firstRun: false
+    // A new window is there before what it shows.
+    property bool seen: false
 
     Component.onCompleted: root.firstRun = App.firstRun
+
+    Connections {
+        enabled: !root.seen
+        target: root.Window.window
+        function onFrameSwapped() {
+            root.seen = true;
+        }
+    }
 
     Sidebar {
         id: sidebar
@@ -25,7 +36,7 @@ FocusScope {
         Content {
             objectName: "content"
             anchors.fill: parent
-            source: App.contentSource
+            source: root.seen ? App.contentSource : ""
             focus: true
             onTurned: root.firstRun = App.firstRun
         }
