@@ -3,7 +3,10 @@
 #include "Memory.h"
 #include "Program.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QThread>
 
 #include <algorithm>
@@ -33,8 +36,44 @@ double memoryAtRest(qint64 process) {
     return last;
 }
 
-double memoryOf(const QString& program) {
+/// Copies of the libraries that are loaded here, but for the C library that every process has: what a process shares
+/// counts for it in part only, and what it shares with this one it has alone where nobody measures.
+class OwnLibraries {
+public:
+    OwnLibraries() {
+        QFile maps(u"/proc/self/maps"_s);
+        if (!maps.open(QIODevice::ReadOnly)) {
+            qFatal("what is loaded here cannot be read");
+        }
+        for (const QByteArray& line : maps.readAll().split('\n')) {
+            const QString path = QFile::decodeName(line.mid(line.indexOf('/')));
+            const QString name = QFileInfo(path).fileName();
+            // A library is mapped in several pieces; copying it again does nothing.
+            if (name.contains(u".so.") && !name.startsWith(u"libc.") && !name.startsWith(u"ld-")) {
+                QFile::copy(path, m_folder.filePath(sonameOf(name)));
+            }
+        }
+    }
+
+    QProcessEnvironment environment() const {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"LD_LIBRARY_PATH"_s, m_folder.path());
+        return environment;
+    }
+
+private:
+    /// What programs ask for: the name with the first number of the version only.
+    static QString sonameOf(const QString& name) {
+        const qsizetype version = name.indexOf(u".so.") + 4;
+        return name.left(name.indexOf(u'.', version));
+    }
+
+    QTemporaryDir m_folder;
+};
+
+double memoryOf(const QString& program, const OwnLibraries& libraries) {
     QProcess process;
+    process.setProcessEnvironment(libraries.environment());
     process.setStandardErrorFile(QProcess::nullDevice());
     process.start(Program::path(program), QStringList());
     if (!process.waitForStarted()) {
@@ -68,8 +107,10 @@ QList<double> numbers(const QString& work, const QString& subject) {
 } // namespace
 
 Stopwatch::Pair Application::memory(int runs) {
+    const OwnLibraries libraries;
     return inTurns(
-        runs, [] { return memoryOf(u"kelvane"_s); }, [] { return memoryOf(u"kelvane-bench-application"_s); });
+        runs, [&libraries] { return memoryOf(u"kelvane"_s, libraries); },
+        [&libraries] { return memoryOf(u"kelvane-bench-application"_s, libraries); });
 }
 
 Application::Opening Application::opening(int runs) {
