@@ -1,5 +1,6 @@
 #include "Kelvane/AppModel.h"
 #include "Kelvane/Shell/AppDelegate.h"
+#include "Kelvane/Shell/WindowModule.h"
 #include "Platform/Linux/LinuxDesktop.h"
 #include "Platform/Linux/LinuxPlatform.h"
 #include "Window/ListScroll.h"
@@ -88,7 +89,7 @@ private:
     PlatformScope m_scope = PlatformScope(m_platform.platform());
     LinuxDesktop m_desktop;
     AppModel m_model = AppModel(&m_desktop.workspace(), &m_desktop.loginItem());
-    AppDelegate m_delegate = AppDelegate(m_model, m_desktop.desktop(), m_desktop.images());
+    AppDelegate m_delegate = AppDelegate(m_model, m_desktop.desktop(), m_desktop.images(), WindowModule::makeWindow);
 };
 
 } // namespace

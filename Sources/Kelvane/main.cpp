@@ -9,6 +9,7 @@
 #include "Kelvane/Commands/CommandServer.h"
 #include "Kelvane/Commands/InstanceLock.h"
 #include "Kelvane/Shell/AppDelegate.h"
+#include "Kelvane/Shell/WindowModule.h"
 #include "Kelvane/Uninstall.h"
 #include "Kelvane/UsageTracker.h"
 #include "Platform/Posix/Terminal.h"
@@ -116,7 +117,7 @@ int main(int argc, char** argv) {
     SystemDesktop desktop;
     AppModel model(&desktop.workspace(), &desktop.loginItem());
     CommandRunner runner(model);
-    AppDelegate delegate(model, desktop.desktop(), desktop.images());
+    AppDelegate delegate(model, desktop.desktop(), desktop.images(), WindowModule::makeWindow);
     const CommandServer server(runner, socket);
     QObject::connect(&server, &CommandServer::showRequested, &delegate, &AppDelegate::showWindow);
     delegate.finishLaunching(arguments.contains(u"--show") ? AppDelegate::Window::show

@@ -4,12 +4,12 @@
 #include "Kelvane/Ports/Desktop.h"
 #include "Kelvane/Shell/MenuSymbol.h"
 #include "Kelvane/UsageTracker.h"
-#include "Kelvane/Views/MainWindow.h"
-#include "Kelvane/Views/ScreenImages.h"
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -21,11 +21,12 @@ using namespace std::chrono_literals;
 constexpr auto launchTime = 3s;
 } // namespace
 
-AppDelegate::AppDelegate(AppModel& model, Desktop& desktop, Images& images)
+AppDelegate::AppDelegate(AppModel& model, Desktop& desktop, Images& images, WindowMaker windowMaker)
     : m_model(model)
     , m_desktop(desktop)
     , m_images(images)
-    , m_statusMenu(model, [&images](const QString& name) { return MenuSymbol::icon(images, name); }) {
+    , m_statusMenu(model, [&images](const QString& name) { return MenuSymbol::icon(images, name); })
+    , m_windowMaker(std::move(windowMaker)) {
     connect(&m_statusMenu, &StatusMenu::openRequested, this, &AppDelegate::showWindow);
     connect(&m_statusMenu, &StatusMenu::quitRequested, qApp, &QCoreApplication::quit);
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { m_model.tracker().flush(); });
@@ -45,10 +46,9 @@ void AppDelegate::finishLaunching(Window window) {
     const QString folder = qEnvironmentVariable("KELVANE_SHOTS");
     if (!m_model.settings().onboarded || window == Window::show || !folder.isEmpty())
         showWindow();
-    if (!folder.isEmpty()) {
-        m_screenImages = std::make_unique<ScreenImages>(m_model, m_desktop, *m_window, folder);
-        connect(m_screenImages.get(), &ScreenImages::finished, qApp, &QCoreApplication::quit);
-        m_screenImages->start();
+    if (!folder.isEmpty() && m_window) {
+        connect(m_window.get(), &ApplicationWindow::screensDrawn, qApp, &QCoreApplication::quit);
+        m_window->drawScreens(folder);
     }
 }
 
@@ -76,19 +76,33 @@ void AppDelegate::makeMainMenu() {
 }
 
 void AppDelegate::makeWindow() {
-    m_window = std::make_unique<MainWindow>(m_model, m_desktop, m_images);
+    m_window = m_windowMaker(m_model, m_desktop, m_images);
+    if (!m_window)
+        return;
     makeMainMenu();
-    connect(m_window.get(), &MainWindow::becameKey, this, [this] { m_model.refresh(); });
-    connect(m_window.get(), &MainWindow::closing, this,
+    connect(m_window.get(), &ApplicationWindow::becameKey, this, [this] { m_model.refresh(); });
+    connect(m_window.get(), &ApplicationWindow::closing, this,
             [this] { m_desktop.setActivationPolicy(Desktop::ActivationPolicy::accessory); });
 }
 
 void AppDelegate::showWindow() {
     if (!m_window)
         makeWindow();
+    if (!m_window) {
+        explainMissingWindow();
+        return;
+    }
     m_desktop.setActivationPolicy(Desktop::ActivationPolicy::regular);
     m_model.refresh();
     m_window->show();
+}
+
+void AppDelegate::explainMissingWindow() {
+    // Nobody who asked for the window waits for an answer to this.
+    auto* box = new QMessageBox(QMessageBox::Warning, u"Kelvane"_s, u"The window cannot be opened."_s);
+    box->setInformativeText(u"Kelvane was updated or moved while it ran. Quit it and open it again."_s);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->show();
 }
 
 void AppDelegate::reopen(Qt::ApplicationState state) {

@@ -6,6 +6,7 @@
 #include "Kelvane/ViewModels/Appearance.h"
 #include "Kelvane/Views/DiscProvider.h"
 #include "Kelvane/Views/IconProvider.h"
+#include "Kelvane/Views/ScreenImages.h"
 #include "Kelvane/Views/ShadowProvider.h"
 #include "Kelvane/Views/SymbolProvider.h"
 #include "Kelvane/Views/WindowFrame.h"
@@ -93,6 +94,12 @@ void MainWindow::minimize() {
 
 bool MainWindow::isVisible() const {
     return m_window && m_window->isVisible();
+}
+
+void MainWindow::drawScreens(const QString& folder) {
+    m_screenImages = std::make_unique<ScreenImages>(m_context.model, m_desktop, *this, folder);
+    connect(m_screenImages.get(), &ScreenImages::finished, this, &MainWindow::screensDrawn);
+    m_screenImages->start();
 }
 
 std::optional<QImage> MainWindow::grab() const {

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "Kelvane/ApplicationWindow.h"
 #include "Kelvane/ViewModels/AppFacade.h"
 #include "Kelvane/ViewModels/ViewContext.h"
 
 #include <QImage>
-#include <QObject>
 #include <QPointer>
 
 #include <memory>
@@ -17,10 +17,11 @@ class QQuickWindow;
 namespace Kelvane {
 
 class Images;
+class ScreenImages;
 
 /// The main window. It is made the first time it is shown, with all of QML, and kept when it is closed; where it was is
 /// remembered in the support folder. Destroy it before the application object. Main thread only.
-class MainWindow : public QObject {
+class MainWindow : public ApplicationWindow {
     Q_OBJECT
 
 public:
@@ -29,22 +30,16 @@ public:
     MainWindow(AppModel& model, Desktop& desktop, Images& images);
     ~MainWindow() override;
 
-    /// Brings the window to the front, wherever it was; the first time it makes it.
-    void show();
-    void close();
-    void minimize();
-    bool isVisible() const;
+    void show() override;
+    void close() override;
+    void minimize() override;
+    bool isVisible() const override;
+    void drawScreens(const QString& folder) override;
     /// What the window shows now, in its screen's resolution, on the gray of its appearance, under its title bar where
     /// the system draws it; nothing without a window.
     std::optional<QImage> grab() const;
     /// Shows the panes or the first run whatever the settings say, for pictures.
     void setContent(AppFacade::Content content);
-
-Q_SIGNALS:
-    /// The window has become the one that takes the keys.
-    void becameKey();
-    /// The window is about to be hidden.
-    void closing();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -62,6 +57,7 @@ private:
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     std::unique_ptr<QQmlComponent> m_types;
     QPointer<QQuickWindow> m_window;
+    std::unique_ptr<ScreenImages> m_screenImages;
 };
 
 } // namespace Kelvane

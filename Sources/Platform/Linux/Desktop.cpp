@@ -8,7 +8,6 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
-#include <QQuickWindow>
 #include <QUrl>
 
 #include <cmath>
@@ -41,7 +40,7 @@ QPalette palette(bool dark) {
 /// The renderer that starts fastest and takes least memory here, unless the user's environment names another.
 void chooseRenderer() {
     if (!qEnvironmentVariableIsSet("QSG_RHI_BACKEND") && !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+        qputenv("QT_QUICK_BACKEND", "software");
 }
 
 } // namespace

@@ -31,7 +31,7 @@ private Q_SLOTS:
     }
 
     void theFirstRunOpensTheWindow() {
-        delegate.emplace(*mac->model, mac->desktop, mac->images);
+        delegate.emplace(*mac->model, mac->desktop, mac->images, makeWindow);
         delegate->finishLaunching(AppDelegate::Window::onFirstRun);
         QCOMPARE(mac->desktop.policies, (QList{Policy::accessory, Policy::regular}));
         QVERIFY(mac->quick() != nullptr);
@@ -60,6 +60,23 @@ private Q_SLOTS:
         QVERIFY(mac->quick() == nullptr);
         Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
         QVERIFY(mac->quick() != nullptr);
+    }
+
+    void aWindowThatCannotBeMadeIsExplained() {
+        mac->model->finishOnboarding(AppModel::Apply::no);
+        delegate.emplace(*mac->model, mac->desktop, mac->images,
+                         [](AppModel&, Kelvane::Desktop&, Kelvane::Images&) { return nullptr; });
+        delegate->finishLaunching(AppDelegate::Window::show);
+        QMessageBox* box = nullptr;
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (auto* candidate = qobject_cast<QMessageBox*>(widget); candidate != nullptr && candidate->isVisible())
+                box = candidate;
+        }
+        QVERIFY(box != nullptr);
+        QCOMPARE(box->text(), u"The window cannot be opened."_s);
+        box->close();
+        // The application goes on in the menu bar.
+        QCOMPARE(mac->desktop.policies, QList{Policy::accessory});
     }
 
     void aboutIsTheSystemsPanelWhereItHasOne_data() {
@@ -108,9 +125,14 @@ private:
         return nullptr;
     }
 
+    static std::unique_ptr<ApplicationWindow> makeWindow(AppModel& model, Kelvane::Desktop& desktop,
+                                                         Kelvane::Images& images) {
+        return std::make_unique<MainWindow>(model, desktop, images);
+    }
+
     void launch(AppDelegate::Window window) {
         mac->model->finishOnboarding(AppModel::Apply::no);
-        delegate.emplace(*mac->model, mac->desktop, mac->images);
+        delegate.emplace(*mac->model, mac->desktop, mac->images, makeWindow);
         delegate->finishLaunching(window);
     }
 
