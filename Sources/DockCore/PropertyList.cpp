@@ -66,7 +66,27 @@ PropertyList dateOf(plist_t node) {
     return {PropertyList::Date{std::bit_cast<double>(qFromBigEndian<quint64>(object.constData() + 1))}};
 }
 
+/// Nothing when an element is no date, or there is none.
+std::optional<PropertyList> datesOf(plist_t node) {
+    if (plist_array_get_size(node) == 0)
+        return std::nullopt;
+    plist_array_iter iterator = nullptr;
+    plist_array_new_iter(node, &iterator);
+    const Memory<void> owner(iterator);
+    plist_t element = nullptr;
+    for (plist_array_next_item(node, iterator, &element); element; plist_array_next_item(node, iterator, &element)) {
+        if (plist_get_node_type(element) != PLIST_DATE)
+            return std::nullopt;
+    }
+    PropertyList::Array array;
+    for (const double seconds : PropertyListNode::datesOf(node))
+        array.append({PropertyList::Date{seconds}});
+    return PropertyList{std::move(array)};
+}
+
 std::optional<PropertyList> arrayOf(plist_t node, Format format, int levels) {
+    if (auto dates = datesOf(node))
+        return dates;
     plist_array_iter iterator = nullptr;
     plist_array_new_iter(node, &iterator);
     const Memory<void> owner(iterator);

@@ -2,6 +2,7 @@
 
 #include <QByteArrayView>
 
+#include <bit>
 #include <clocale>
 #if __has_include(<xlocale.h>)
 #include <xlocale.h>
@@ -31,6 +32,14 @@ private:
 
     locale_t m_previous;
 };
+
+QByteArray binary(plist_t node) {
+    char* written = nullptr;
+    uint32_t length = 0;
+    plist_to_bin(node, &written, &length);
+    const Memory<char> owner(written);
+    return {written, static_cast<qsizetype>(length)};
+}
 
 } // namespace
 
@@ -70,11 +79,36 @@ Node ofObject(const QByteArray& object) {
 }
 
 QByteArray object(plist_t node) {
-    char* written = nullptr;
-    uint32_t length = 0;
-    plist_to_bin(node, &written, &length);
-    const Memory<char> owner(written);
-    return QByteArray(written, static_cast<qsizetype>(length)).sliced(header.size());
+    return binary(node).sliced(header.size());
+}
+
+QList<double> datesOf(plist_t array) {
+    const QByteArray bytes = binary(array);
+    const auto number = [&bytes](quint64 place, quint64 size) {
+        quint64 value = 0;
+        for (quint64 i = 0; i < size; ++i)
+            value = value << 8 | static_cast<uchar>(bytes[static_cast<qsizetype>(place + i)]);
+        return value;
+    };
+    const quint64 trailer = static_cast<quint64>(bytes.size()) - 32;
+    const quint64 offsetSize = number(trailer + 6, 1);
+    const quint64 referenceSize = number(trailer + 7, 1);
+    const quint64 offsets = number(trailer + 24, 8);
+    const auto placeOf = [&](quint64 object) { return number(offsets + object * offsetSize, offsetSize); };
+
+    quint64 references = placeOf(number(trailer + 16, 8)) + 1;
+    const quint64 count = plist_array_get_size(array);
+    // A count that the marker has no room for follows it as an integer.
+    constexpr quint64 largestInMarker = 14;
+    if (count > largestInMarker)
+        references += 1 + (1ULL << (number(references, 1) & 0x0F));
+    QList<double> seconds;
+    seconds.reserve(static_cast<qsizetype>(count));
+    for (quint64 i = 0; i < count; ++i) {
+        const quint64 date = placeOf(number(references + i * referenceSize, referenceSize));
+        seconds.append(std::bit_cast<double>(number(date + 1, sizeof(double))));
+    }
+    return seconds;
 }
 
 } // namespace DockCore::PropertyListNode

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 
 #include <plist/plist.h>
 
@@ -37,6 +38,10 @@ QByteArray toXML(const Node& node);
 /// that libplist holds whole, but takes in and hands out only in part.
 Node ofObject(const QByteArray& object);
 QByteArray object(plist_t node);
+
+/// The seconds of all elements of an array that holds nothing but dates. Writing a node costs the same for one date as
+/// for a hundred.
+QList<double> datesOf(plist_t array);
 
 } // namespace PropertyListNode
 } // namespace DockCore

@@ -248,6 +248,14 @@ void PropertyListTest::comesBackFromBothFormats_data() {
     for (const quint64 number : {0ULL, 255ULL, 256ULL, 65536ULL, 4294967295ULL})
         QTest::addRow("the UID %llu", static_cast<unsigned long long>(number))
             << PropertyList{PropertyList::UID{number}};
+    for (const int count : {1, 2, 14, 15, 255, 256, 70'000}) {
+        Array dates;
+        for (int number = 0; number < count; ++number)
+            dates.append({PropertyList::Date{86'400.0 * (number % 40'000 - 7)}});
+        QTest::addRow("%d dates, some of them equal", count) << PropertyList{dates};
+    }
+    QTest::newRow("dates and another value")
+        << PropertyList{Array{{PropertyList::Date{1}}, {u"x"_s}, {PropertyList::Date{2}}}};
     QTest::newRow("an empty array") << PropertyList{Array()};
     QTest::newRow("an empty dictionary") << PropertyList{Dictionary()};
     QTest::newRow("empty containers in containers")
@@ -299,8 +307,11 @@ void PropertyListTest::xmlKeepsWholeSecondsOfADate() {
 }
 
 void PropertyListTest::binaryKeepsFractionsOfADate() {
+    Array together;
     for (const double seconds : {1.75, -0.25, 672508800.123456, -12'000'000'000.5, 1e15}) {
         const PropertyList list{PropertyList::Date{seconds}};
+        together.append(list);
+        QVERIFY(PropertyList::parse(PropertyList{together}.serialize(Format::binary)) == PropertyList{together});
         QVERIFY(PropertyList::parse(list.serialize(Format::binary)) == list);
     }
 }
