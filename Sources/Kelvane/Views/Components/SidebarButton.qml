@@ -38,20 +38,18 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: 8
-        color: root.current || press.pressed ? Theme.selected : hover.hovered ? Theme.hover : Theme.clear
+        color: root.current || pointer.containsPress ? Theme.selected : pointer.containsMouse ? Theme.hover : Theme.clear
         Behavior on color { ColorAnimation { duration: Theme.colourTime } }
         FocusRing {
             shown: root.activeFocus && !root.byPointer
             edge: true
         }
     }
-    HoverHandler {
-        id: hover
-    }
-    TapHandler {
-        id: press
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: {
+    MouseArea {
+        id: pointer
+        anchors.fill: parent
+        hoverEnabled: Application.styleHints.useHoverEffects
+        onClicked: {
             root.byPointer = true;
             root.forceActiveFocus(Qt.MouseFocusReason);
             root.choose();
