@@ -46,10 +46,15 @@ void AppDelegate::finishLaunching(Window window) {
     const QString folder = qEnvironmentVariable("KELVANE_SHOTS");
     if (!m_model.settings().onboarded || window == Window::show || !folder.isEmpty())
         showWindow();
-    if (!folder.isEmpty() && m_window) {
-        connect(m_window.get(), &ApplicationWindow::screensDrawn, qApp, &QCoreApplication::quit);
-        m_window->drawScreens(folder);
+    if (folder.isEmpty())
+        return;
+    // Without a window there is nothing to draw, and the end comes all the same.
+    if (!m_window) {
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        return;
     }
+    connect(m_window.get(), &ApplicationWindow::screensDrawn, qApp, &QCoreApplication::quit);
+    m_window->drawScreens(folder);
 }
 
 void AppDelegate::makeStatusItem() {

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMessageBox>
+#include <QScopeGuard>
 #include <QTest>
 #include <QTimer>
 
@@ -77,6 +78,16 @@ private Q_SLOTS:
         box->close();
         // The application goes on in the menu bar.
         QCOMPARE(mac->desktop.policies, QList{Policy::accessory});
+    }
+
+    void withoutAWindowToDrawTheEndComesAllTheSame() {
+        qputenv("KELVANE_SHOTS", "/nowhere");
+        const auto forget = qScopeGuard([] { qunsetenv("KELVANE_SHOTS"); });
+        mac->model->finishOnboarding(AppModel::Apply::no);
+        delegate.emplace(*mac->model, mac->desktop, mac->images,
+                         [](AppModel&, Kelvane::Desktop&, Kelvane::Images&) { return nullptr; });
+        QTimer::singleShot(0, this, [this] { delegate->finishLaunching(AppDelegate::Window::onFirstRun); });
+        QCOMPARE(QApplication::exec(), 0);
     }
 
     void aboutIsTheSystemsPanelWhereItHasOne_data() {
