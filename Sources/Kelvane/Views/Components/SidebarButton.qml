@@ -48,7 +48,8 @@ Item {
     MouseArea {
         id: pointer
         anchors.fill: parent
-        hoverEnabled: Application.styleHints.useHoverEffects
+        // Without a display no pointer lies over anything, wherever Qt takes it to be.
+        hoverEnabled: Qt.platform.pluginName !== "offscreen"
         onClicked: {
             root.byPointer = true;
             root.forceActiveFocus(Qt.MouseFocusReason);
