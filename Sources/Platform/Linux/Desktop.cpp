@@ -37,16 +37,9 @@ QPalette palette(bool dark) {
     return result;
 }
 
-/// The renderer that starts fastest and takes least memory here, unless the user's environment names another.
-void chooseRenderer() {
-    if (!qEnvironmentVariableIsSet("QSG_RHI_BACKEND") && !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
-        qputenv("QT_QUICK_BACKEND", "software");
-}
-
 } // namespace
 
 Desktop::Desktop() {
-    chooseRenderer();
     QObject::connect(&m_settings, &PortalSettings::changed, qGuiApp, [this] { follow(); });
     follow();
 }
