@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QtEndian>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -66,34 +67,29 @@ PropertyList dateOf(plist_t node) {
     return {PropertyList::Date{std::bit_cast<double>(qFromBigEndian<quint64>(object.constData() + 1))}};
 }
 
-/// Nothing when an element is no date, or there is none.
-std::optional<PropertyList> datesOf(plist_t node) {
-    if (plist_array_get_size(node) == 0)
-        return std::nullopt;
+QList<plist_t> elementsOf(plist_t array) {
     plist_array_iter iterator = nullptr;
-    plist_array_new_iter(node, &iterator);
+    plist_array_new_iter(array, &iterator);
     const Memory<void> owner(iterator);
+    QList<plist_t> elements;
+    elements.reserve(plist_array_get_size(array));
     plist_t element = nullptr;
-    for (plist_array_next_item(node, iterator, &element); element; plist_array_next_item(node, iterator, &element)) {
-        if (plist_get_node_type(element) != PLIST_DATE)
-            return std::nullopt;
-    }
-    PropertyList::Array array;
-    for (const double seconds : PropertyListNode::datesOf(node))
-        array.append({PropertyList::Date{seconds}});
-    return PropertyList{std::move(array)};
+    for (plist_array_next_item(array, iterator, &element); element; plist_array_next_item(array, iterator, &element))
+        elements.append(element);
+    return elements;
 }
 
 std::optional<PropertyList> arrayOf(plist_t node, Format format, int levels) {
-    if (auto dates = datesOf(node))
-        return dates;
-    plist_array_iter iterator = nullptr;
-    plist_array_new_iter(node, &iterator);
-    const Memory<void> owner(iterator);
+    const QList<plist_t> elements = elementsOf(node);
+    const auto isDate = [](plist_t element) { return plist_get_node_type(element) == PLIST_DATE; };
     PropertyList::Array array;
-    array.reserve(plist_array_get_size(node));
-    plist_t element = nullptr;
-    for (plist_array_next_item(node, iterator, &element); element; plist_array_next_item(node, iterator, &element)) {
+    array.reserve(elements.size());
+    if (!elements.isEmpty() && std::ranges::all_of(elements, isDate)) {
+        for (const double seconds : PropertyListNode::datesOf(node))
+            array.append({PropertyList::Date{seconds}});
+        return PropertyList{std::move(array)};
+    }
+    for (plist_t element : elements) {
         auto value = valueOf(element, format, levels + 1);
         if (!value)
             return std::nullopt;
