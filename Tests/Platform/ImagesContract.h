@@ -18,12 +18,20 @@ protected:
     public:
         virtual ~Computer() = default;
         virtual Kelvane::Images& images() = 0;
-        /// A new bundle with an icon all in one colour, 64 pixels wide; gives its path.
-        virtual QString makeBundle(const QColor& icon) = 0;
+        /// A new bundle with an icon; gives its path.
+        virtual QString makeBundle(const QImage& icon) = 0;
         /// A new bundle without an icon; gives its path.
         virtual QString makePlainBundle() = 0;
     };
     virtual std::unique_ptr<Computer> makeComputer() = 0;
+
+private:
+    /// An icon all in one colour.
+    static QImage plain(const QColor& colour) {
+        QImage image(64, 64, QImage::Format_ARGB32);
+        image.fill(colour);
+        return image;
+    }
 
 private Q_SLOTS:
     void anIconIsAsLargeAsAsked_data() {
@@ -35,7 +43,7 @@ private Q_SLOTS:
     void anIconIsAsLargeAsAsked() {
         QFETCH(int, size);
         const auto computer = makeComputer();
-        const QString bundle = computer->makeBundle(Qt::red);
+        const QString bundle = computer->makeBundle(plain(Qt::red));
         const std::optional<QImage> icon = computer->images().applicationIcon(bundle, size);
         QVERIFY(icon);
         QCOMPARE(icon->size(), QSize(size, size));
@@ -44,15 +52,15 @@ private Q_SLOTS:
 
     void eachBundleHasItsOwn() {
         const auto computer = makeComputer();
-        const QString red = computer->makeBundle(Qt::red);
-        const QString blue = computer->makeBundle(Qt::blue);
+        const QString red = computer->makeBundle(plain(Qt::red));
+        const QString blue = computer->makeBundle(plain(Qt::blue));
         QCOMPARE(computer->images().applicationIcon(red, 32)->pixelColor(16, 16), QColor(Qt::red));
         QCOMPARE(computer->images().applicationIcon(blue, 32)->pixelColor(16, 16), QColor(Qt::blue));
     }
 
     void anotherThreadMayAskForIcons() {
         const auto computer = makeComputer();
-        const QString bundle = computer->makeBundle(Qt::red);
+        const QString bundle = computer->makeBundle(plain(Qt::red));
         std::optional<QImage> icon;
         std::thread([&] { icon = computer->images().applicationIcon(bundle, 32); }).join();
         QCOMPARE(icon, computer->images().applicationIcon(bundle, 32));

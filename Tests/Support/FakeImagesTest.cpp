@@ -10,11 +10,9 @@ class FakeImagesTest : public ImagesContract {
     class FakeComputer : public Computer {
     public:
         Kelvane::Images& images() override { return m_images; }
-        QString makeBundle(const QColor& icon) override {
+        QString makeBundle(const QImage& icon) override {
             const QString path = makePlainBundle();
-            QImage image(64, 64, QImage::Format_ARGB32);
-            image.fill(icon);
-            m_images.icons.insert(path, image);
+            m_images.icons.insert(path, icon);
             return path;
         }
         QString makePlainBundle() override { return u"/Applications/%1.app"_s.arg(++m_bundles); }

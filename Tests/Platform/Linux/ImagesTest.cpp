@@ -15,12 +15,10 @@ class LinuxImagesTest : public ImagesContract {
     class Folder : public Computer {
     public:
         Kelvane::Images& images() override { return m_images; }
-        QString makeBundle(const QColor& icon) override {
+        QString makeBundle(const QImage& icon) override {
             const QString path = makePlainBundle();
-            QImage image(64, 64, QImage::Format_ARGB32);
-            image.fill(icon);
             const bool isSaved =
-                image.save(path + u"/Contents/Resources/Icon.png"_s) &&
+                icon.save(path + u"/Contents/Resources/Icon.png"_s) &&
                 Files::put(path + u"/Contents/Info.plist"_s, "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>"
                                                              "<key>CFBundleIconFile</key><string>Icon</string>"
                                                              "</dict></plist>");
