@@ -1,8 +1,8 @@
 #include "Fixture.h"
 
-#include "DockCore/JSONFile.h"
-#include "DockCore/PropertyList.h"
 #include "DockCore/Settings.h"
+#include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/PropertyList.h"
 #include "DockCore/UsageStore.h"
 
 #include <QDir>

@@ -5,7 +5,7 @@
 #include "DockCore/Ranker.h"
 #include "DockCore/UsageStore.h"
 #include "Fixture.h"
-#include "Platform/Linux/LinuxPlatform.h"
+#include "Platform/Linux/LinuxServices.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -34,8 +34,8 @@ void require(bool condition, const char* what) {
 
 /// What `main` installs, as if the process had just started.
 struct FreshComputer {
-    LinuxPlatform platform;
-    PlatformScope scope = PlatformScope(platform.platform());
+    LinuxServices platform;
+    ServicesScope scope = ServicesScope(platform.platform());
     AppCatalog catalog;
 };
 

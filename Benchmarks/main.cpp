@@ -6,7 +6,7 @@
 #include "Fixture.h"
 #include "Frames.h"
 #include "Logic.h"
-#include "Platform/Linux/LinuxPlatform.h"
+#include "Platform/Linux/LinuxServices.h"
 #include "Support/PrivateDesktop.h"
 #include "Table.h"
 
@@ -118,8 +118,8 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "kelvane-bench: the only option is --strict\n");
         return 2;
     }
-    LinuxPlatform platform;
-    const DockCore::PlatformScope scope(platform.platform());
+    LinuxServices platform;
+    const DockCore::ServicesScope scope(platform.platform());
     if (!Fixture(1, 1).hasMetadata()) {
         std::printf("The temporary folder keeps no extended attributes: no application has a record of opened days.\n");
     }

@@ -1,8 +1,8 @@
 #include "Kelvane/AppModel.h"
 #include "Kelvane/Shell/AppDelegate.h"
 #include "Kelvane/Shell/WindowModule.h"
-#include "Platform/Linux/LinuxDesktop.h"
-#include "Platform/Linux/LinuxPlatform.h"
+#include "Platform/Linux/LinuxServices.h"
+#include "Platform/Linux/LinuxSession.h"
 #include "Window/ListScroll.h"
 #include "Window/Subject.h"
 
@@ -85,9 +85,9 @@ private:
         }
     }
 
-    LinuxPlatform m_platform;
-    PlatformScope m_scope = PlatformScope(m_platform.platform());
-    LinuxDesktop m_desktop;
+    LinuxServices m_platform;
+    ServicesScope m_scope = ServicesScope(m_platform.platform());
+    LinuxSession m_desktop;
     AppModel m_model = AppModel(&m_desktop.workspace(), &m_desktop.loginItem());
     AppDelegate m_delegate = AppDelegate(m_model, m_desktop.desktop(), m_desktop.images(), WindowModule::makeWindow);
 };

@@ -1,8 +1,8 @@
 #include "DockCore/AppCatalog.h"
 
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Bundles.h"
 #include "DockCore/Ports/Folders.h"
+#include "DockCore/Services.h"
 
 #include <QCollator>
 
@@ -29,7 +29,7 @@ void sortByName(QList<AppInfo>& apps) {
 
 /// Without the catalog's lock: this reads files.
 QList<AppInfo> scan() {
-    Folders& folders = Platform::current().folders;
+    Folders& folders = Services::current().folders;
     QList<AppInfo> apps;
     QSet<QString> seen;
     for (const QString& folder : AppCatalog::searchFolders()) {
@@ -55,8 +55,8 @@ AppCatalog& AppCatalog::shared() {
     static quint64 generation = 0;
 
     const std::lock_guard guard(lock);
-    if (catalogs.empty() || generation != Platform::generation()) {
-        generation = Platform::generation();
+    if (catalogs.empty() || generation != Services::generation()) {
+        generation = Services::generation();
         catalogs.emplace_back();
     }
     return catalogs.back();
@@ -65,7 +65,7 @@ AppCatalog& AppCatalog::shared() {
 QStringList AppCatalog::searchFolders() {
     return {u"/Applications"_s,        u"/Applications/Utilities"_s,
             u"/System/Applications"_s, u"/System/Applications/Utilities"_s,
-            u"/Applications/Setapp"_s, Platform::current().folders.home() + u"/Applications"_s};
+            u"/Applications/Setapp"_s, Services::current().folders.home() + u"/Applications"_s};
 }
 
 const QSet<QString>& AppCatalog::ignored() {
@@ -108,7 +108,7 @@ std::optional<AppInfo> AppCatalog::info(const QString& bundleID) {
         if (const auto known = m_cache.constFind(bundleID); known != m_cache.constEnd())
             return *known;
     }
-    const std::optional<QString> path = Platform::current().bundles.path(bundleID);
+    const std::optional<QString> path = Services::current().bundles.path(bundleID);
     const std::optional<AppInfo> app = path ? AppInfo::fromBundle(*path) : std::nullopt;
     const std::lock_guard guard(m_lock);
     m_cache.insert(bundleID, app);
@@ -116,7 +116,7 @@ std::optional<AppInfo> AppCatalog::info(const QString& bundleID) {
 }
 
 void AppCatalog::add(const AppInfo& app) {
-    Platform::current().bundles.remember(app.path);
+    Services::current().bundles.remember(app.path);
     const std::lock_guard guard(m_lock);
     keep(app);
 }

@@ -1,8 +1,8 @@
 #include "DockCore/AppInfo.h"
 
-#include "DockCore/JSONFile.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Bundles.h"
+#include "DockCore/Services.h"
+#include "DockCore/Storage/JSONFile.h"
 
 #include <QHashFunctions>
 #include <QJsonObject>
@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace DockCore {
 
 std::optional<AppInfo> AppInfo::fromBundle(const QString& path) {
-    Bundles& bundles = Platform::current().bundles;
+    Bundles& bundles = Services::current().bundles;
     const std::optional<QString> bundleID = bundles.identifier(path);
     // An empty identifier identifies nothing.
     if (!bundleID || bundleID->isEmpty())

@@ -1,8 +1,8 @@
 #include "DockCore/DefaultProfiles.h"
 
 #include "DockCore/AppCatalog.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Clock.h"
+#include "DockCore/Services.h"
 #include "DockCore/SpotlightUsage.h"
 
 #include <QSet>
@@ -62,7 +62,7 @@ QStringList recent(const QStringList& bundleIDs, qsizetype most, AppCatalog& cat
         QString bundleID;
         QDateTime lastUsed;
     };
-    Clock& clock = Platform::current().clock;
+    Clock& clock = Services::current().clock;
     const QDateTime cutoff = clock.now().addSecs(-secondsRecent);
     const QStringList present = installed(bundleIDs, catalog);
     QList<Use> uses;

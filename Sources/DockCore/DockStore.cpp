@@ -1,10 +1,10 @@
 #include "DockCore/DockStore.h"
 
-#include "DockCore/AtomicFile.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Clock.h"
 #include "DockCore/Ports/Preferences.h"
 #include "DockCore/Ports/Processes.h"
+#include "DockCore/Services.h"
+#include "DockCore/Storage/AtomicFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -103,7 +103,7 @@ void DockStore::seedDryRun(const QString& path) {
     PropertyList::Dictionary contents;
     {
         const std::lock_guard guard(preferencesLock());
-        Preferences& preferences = Platform::current().preferences;
+        Preferences& preferences = Services::current().preferences;
         preferences.synchronize();
         for (const QString& key : snapshotKeys()) {
             if (const auto value = preferences.copyValue(key))
@@ -121,7 +121,7 @@ std::optional<PropertyList> DockStore::value(const QString& key) {
     if (const auto path = dryRunFile())
         return valueIn(dryRunContents(*path), key);
     const std::lock_guard guard(preferencesLock());
-    Preferences& preferences = Platform::current().preferences;
+    Preferences& preferences = Services::current().preferences;
     preferences.synchronize();
     return preferences.copyValue(key);
 }
@@ -172,7 +172,7 @@ void DockStore::set(const DockChanges& changes) {
         return;
     }
     const std::lock_guard guard(preferencesLock());
-    Preferences& preferences = Platform::current().preferences;
+    Preferences& preferences = Services::current().preferences;
     for (auto change = changes.cbegin(); change != changes.cend(); ++change)
         preferences.setValue(change.key(), change.value());
     if (!preferences.synchronize())
@@ -188,15 +188,15 @@ void DockStore::restore(const DockState& state) {
 
 void DockStore::restartDock() {
     if (!isDryRun())
-        Platform::current().processes.run(u"/usr/bin/killall"_s, {u"Dock"_s});
+        Services::current().processes.run(u"/usr/bin/killall"_s, {u"Dock"_s});
 }
 
 bool DockStore::isDockRunning() {
-    return Platform::current().processes.run(u"/usr/bin/pgrep"_s, {u"-x"_s, u"Dock"_s}) == 0;
+    return Services::current().processes.run(u"/usr/bin/pgrep"_s, {u"-x"_s, u"Dock"_s}) == 0;
 }
 
 void DockStore::waitForDock() {
-    Clock& clock = Platform::current().clock;
+    Clock& clock = Services::current().clock;
     const auto deadline = clock.elapsed() + restartLimit;
     clock.sleep(goingDown);
     while (clock.elapsed() < deadline && !isDockRunning())

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DockCore/PropertyList.h"
-#include "DockCore/URL.h"
+#include "DockCore/Storage/PropertyList.h"
+#include "DockCore/Storage/URL.h"
 
 #include <QString>
 #include <QStringList>

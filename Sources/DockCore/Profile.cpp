@@ -1,6 +1,6 @@
 #include "DockCore/Profile.h"
 
-#include "DockCore/JSONFile.h"
+#include "DockCore/Storage/JSONFile.h"
 
 #include <QHashFunctions>
 #include <QJsonArray>

@@ -3,8 +3,8 @@
 #include "DockCore/AppCatalog.h"
 #include "DockCore/DefaultProfiles.h"
 #include "DockCore/Error.h"
-#include "DockCore/JSONFile.h"
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/Paths.h"
 
 #include <QJsonArray>
 

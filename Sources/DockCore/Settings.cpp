@@ -1,7 +1,7 @@
 #include "DockCore/Settings.h"
 
-#include "DockCore/JSONFile.h"
 #include "DockCore/Profile.h"
+#include "DockCore/Storage/JSONFile.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

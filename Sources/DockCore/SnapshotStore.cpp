@@ -1,11 +1,11 @@
 #include "DockCore/SnapshotStore.h"
 
-#include "DockCore/AtomicFile.h"
 #include "DockCore/DockStore.h"
 #include "DockCore/Error.h"
-#include "DockCore/JSONFile.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Clock.h"
+#include "DockCore/Services.h"
+#include "DockCore/Storage/AtomicFile.h"
+#include "DockCore/Storage/JSONFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -93,7 +93,7 @@ std::optional<Snapshot> SnapshotStore::original() const {
 
 Snapshot SnapshotStore::capture(const QString& reason, Mark mark) {
     const std::lock_guard changing(m_changing);
-    Clock& clock = Platform::current().clock;
+    Clock& clock = Services::current().clock;
     const DockState state = DockStore::capture();
     const auto apps = state.constFind(u"persistent-apps"_s);
     const QList<DockTile> tiles = apps != state.constEnd() ? tilesFrom(*apps) : QList<DockTile>();
@@ -153,7 +153,7 @@ void SnapshotStore::remove(const Snapshot& snapshot) {
     const std::lock_guard changing(m_changing);
     {
         const std::lock_guard guard(m_lock);
-        leave(snapshot.id);
+        unlist(snapshot.id);
     }
     try {
         saveIndex();
@@ -174,14 +174,14 @@ void SnapshotStore::prune() {
             ids.append(snapshot.id);
     }
     for (const QString& id : ids.mid(maximumSnapshots))
-        leave(id);
+        unlist(id);
 }
 
 /// Takes a snapshot off the list and marks its file for removal; `m_lock` is held.
-void SnapshotStore::leave(const QString& id) {
-    const auto isLeaving = [&id](const Snapshot& snapshot) { return snapshot.id == id && !snapshot.isOriginal; };
-    if (m_all.removeIf(isLeaving) > 0)
-        m_leaving.append(id);
+void SnapshotStore::unlist(const QString& id) {
+    const auto isUnlisted = [&id](const Snapshot& snapshot) { return snapshot.id == id && !snapshot.isOriginal; };
+    if (m_all.removeIf(isUnlisted) > 0)
+        m_unlisted.append(id);
 }
 
 /// Writes the list and then removes the files that it no longer names; `m_changing` is held.
@@ -191,7 +191,7 @@ void SnapshotStore::saveIndex() {
     for (const Snapshot& snapshot : snapshots)
         records.append(snapshot.toJson());
     JSONFile::save(records, m_folder + u"/index.json"_s);
-    for (const QString& id : std::exchange(m_leaving, {}))
+    for (const QString& id : std::exchange(m_unlisted, {}))
         QFile::remove(statePath(id));
 }
 

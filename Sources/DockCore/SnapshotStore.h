@@ -56,7 +56,7 @@ public:
 private:
     QString statePath(const QString& id) const;
     void prune();
-    void leave(const QString& id);
+    void unlist(const QString& id);
     void saveIndex();
 
     QString m_folder;
@@ -66,7 +66,7 @@ private:
     QList<Snapshot> m_all;
     /// State files whose snapshots have left the list but may still stand in the index on disk. A change looks after
     /// it.
-    QStringList m_leaving;
+    QStringList m_unlisted;
 };
 
 } // namespace DockCore

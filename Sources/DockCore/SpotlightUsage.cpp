@@ -1,7 +1,7 @@
 #include "DockCore/SpotlightUsage.h"
 
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Metadata.h"
+#include "DockCore/Services.h"
 
 #include <QSet>
 
@@ -10,7 +10,7 @@
 namespace DockCore {
 
 SpotlightUsage::Result SpotlightUsage::lookup(const QString& path, UsageWindow window, const QDateTime& now) {
-    const std::optional<Metadata::Item> item = Platform::current().metadata.item(path);
+    const std::optional<Metadata::Item> item = Services::current().metadata.item(path);
     if (!item)
         return {};
     // The same time of day by the local calendar, so that a span over a clock change is an hour shorter or longer.

@@ -1,10 +1,10 @@
 #include "DockCore/UsageStore.h"
 
 #include "DockCore/Error.h"
-#include "DockCore/JSONFile.h"
-#include "DockCore/JSONText.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Clock.h"
+#include "DockCore/Services.h"
+#include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/JSONText.h"
 
 #include <QFile>
 #include <QJsonObject>
@@ -254,7 +254,7 @@ QString UsageStore::dayKey(const QDateTime& moment) {
 void UsageStore::save() {
     if (!m_isDirty)
         return;
-    const QDate oldest = Platform::current().clock.now().toLocalTime().date().addDays(-daysKept);
+    const QDate oldest = Services::current().clock.now().toLocalTime().date().addDays(-daysKept);
     if (!oldest.isValid())
         qFatal("The clock shows a date that no calendar has.");
     const auto firstKept = std::as_const(m_file.days).lowerBound(keyOf(oldest));

@@ -3,9 +3,9 @@
 #include "DockCore/AppCatalog.h"
 #include "DockCore/DockStore.h"
 #include "DockCore/LayoutPlanner.h"
-#include "DockCore/Paths.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Clock.h"
+#include "DockCore/Services.h"
+#include "DockCore/Storage/Paths.h"
 #include "Kelvane/Ports/LoginItem.h"
 #include "Kelvane/Ports/Workspace.h"
 #include "Kelvane/UsageTracker.h"
@@ -140,7 +140,7 @@ void AppModel::refresh(std::function<void()> then) {
                 if (m_isClosing || generation != m_refreshGeneration)
                     return;
                 rankings[window] =
-                    Ranker::rank(*usage, window, catalog, Ranker::Spotlight::include, Platform::current().clock.now());
+                    Ranker::rank(*usage, window, catalog, Ranker::Spotlight::include, Services::current().clock.now());
             }
             QMetaObject::invokeMethod(
                 this,
@@ -184,17 +184,17 @@ void AppModel::activate(const QUuid& profile, Apply apply) {
     saveSettings();
     recomputeProposal();
     if (apply == Apply::yes)
-        refresh([this] { applyActive(Voice::spoken); });
+        refresh([this] { applyActive(Notify::always); });
 }
 
-void AppModel::conclude(const Outcome& outcome, Voice voice, const Reply& reply) {
-    if (voice == Voice::spoken)
+void AppModel::conclude(const Outcome& outcome, Notify notify, const Reply& reply) {
+    if (notify == Notify::always)
         show({outcome.text, outcome.isError});
     if (reply)
         reply(outcome);
 }
 
-void AppModel::applyActive(Voice voice, Reply reply) {
+void AppModel::applyActive(Notify notify, Reply reply) {
     if (m_isWorking) {
         if (reply)
             reply({.refused = true});
@@ -205,11 +205,11 @@ void AppModel::applyActive(Voice voice, Reply reply) {
     recomputeProposal();
     if (proposalMatchesDock()) {
         recordApplied(layoutSignature(m_current));
-        conclude({.text = u"Your Dock already matches %1."_s.arg(profile.name)}, voice, reply);
+        conclude({.text = u"Your Dock already matches %1."_s.arg(profile.name)}, notify, reply);
         return;
     }
     if (m_proposal.isEmpty()) {
-        conclude({.text = emptyText(profile), .isError = true}, voice, reply);
+        conclude({.text = emptyText(profile), .isError = true}, notify, reply);
         return;
     }
     const QList<DockTile> proposal = m_proposal;
@@ -221,7 +221,7 @@ void AppModel::applyActive(Voice voice, Reply reply) {
         recordApplied(layoutSignature(proposal));
         return u"Dock updated for %1."_s.arg(name);
     };
-    runDockChange(work, done, voice, std::move(reply));
+    runDockChange(work, done, notify, std::move(reply));
 }
 
 void AppModel::restore(const Snapshot& snapshot, Reply reply) {
@@ -237,7 +237,7 @@ void AppModel::restore(const Snapshot& snapshot, Reply reply) {
         saveSettings();
         return u"Dock restored to “%1”."_s.arg(snapshot.reason);
     };
-    runDockChange([this, snapshot] { m_snapshotStore.restore(snapshot); }, done, Voice::spoken, std::move(reply));
+    runDockChange([this, snapshot] { m_snapshotStore.restore(snapshot); }, done, Notify::always, std::move(reply));
 }
 
 void AppModel::restorePrevious(Reply reply) {
@@ -245,13 +245,13 @@ void AppModel::restorePrevious(Reply reply) {
     if (const std::optional<Snapshot> snapshot = previousSnapshot())
         restore(*snapshot, std::move(reply));
     else
-        conclude({.text = u"There is no earlier Dock to go back to yet."_s}, Voice::spoken, reply);
+        conclude({.text = u"There is no earlier Dock to go back to yet."_s}, Notify::always, reply);
 }
 
-void AppModel::runDockChange(std::function<void()> work, std::function<QString()> done, Voice voice, Reply reply) {
+void AppModel::runDockChange(std::function<void()> work, std::function<QString()> done, Notify notify, Reply reply) {
     m_isWorking = true;
     Q_EMIT isWorkingChanged();
-    m_pool.start([this, work = std::move(work), done = std::move(done), voice, reply = std::move(reply)] {
+    m_pool.start([this, work = std::move(work), done = std::move(done), notify, reply = std::move(reply)] {
         std::optional<QString> failure;
         try {
             work();
@@ -261,11 +261,11 @@ void AppModel::runDockChange(std::function<void()> work, std::function<QString()
         }
         QMetaObject::invokeMethod(
             this,
-            [this, failure, voice, reply] {
+            [this, failure, notify, reply] {
                 const Outcome outcome = failure ? Outcome{.text = *failure, .isError = true}
                                                 : Outcome{.text = std::exchange(m_unrecorded, {})(), .changed = true};
                 // A failed change is worth a word even when nobody asked for it.
-                conclude(outcome, failure ? Voice::spoken : voice, {});
+                conclude(outcome, failure ? Notify::always : notify, {});
                 m_isWorking = false;
                 m_snapshots = m_snapshotStore.all();
                 Q_EMIT isWorkingChanged();
@@ -310,7 +310,7 @@ void AppModel::finishOnboarding(Apply apply) {
     m_store.settings.onboarded = true;
     saveSettings();
     if (apply == Apply::yes)
-        applyActive(Voice::spoken);
+        applyActive(Notify::always);
 }
 
 void AppModel::eraseUsage() {

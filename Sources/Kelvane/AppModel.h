@@ -104,13 +104,13 @@ public:
     QList<DockCore::DockTile> plan(const DockCore::Profile& profile) const;
 
     enum class Apply { no, yes };
-    enum class Voice { silent, spoken };
+    enum class Notify { failuresOnly, always };
     /// Called once, on the main thread, when the operation is over; at once when there is nothing to wait for.
     using Reply = std::function<void(const Outcome&)>;
     /// Makes a profile the active one; with `Apply::yes` refreshes and then brings the Dock in line.
     void activate(const QUuid& profile, Apply apply);
     /// Brings the Dock in line with the active profile; nothing while another change runs.
-    void applyActive(Voice voice, Reply reply = {});
+    void applyActive(Notify notify, Reply reply = {});
     /// Puts a saved Dock back; nothing while another change runs. Automatic updates pause after it.
     void restore(const DockCore::Snapshot& snapshot, Reply reply = {});
     void restorePrevious(Reply reply = {});
@@ -151,14 +151,14 @@ Q_SIGNALS:
 private:
     /// `work` runs in the background and may throw an Error; `done` runs afterwards on the main thread when it did not,
     /// records what was done and gives the text to answer with.
-    void runDockChange(std::function<void()> work, std::function<QString()> done, Voice voice, Reply reply);
+    void runDockChange(std::function<void()> work, std::function<QString()> done, Notify notify, Reply reply);
     void readCurrent();
     /// The user may have switched it elsewhere.
     void readLoginItem();
     void detectManualChange();
     void recordApplied(const QStringList& signature);
     void show(const Toast& toast);
-    void conclude(const Outcome& outcome, Voice voice, const Reply& reply);
+    void conclude(const Outcome& outcome, Notify notify, const Reply& reply);
     void saveSettings();
     void saveProfiles();
     void startSchedule();

@@ -3,8 +3,8 @@
 #include "Kelvane/AppModel.h"
 
 #include "DockCore/DockStore.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Clock.h"
+#include "DockCore/Services.h"
 #include "Kelvane/Ports/Workspace.h"
 #include "Kelvane/UsageTracker.h"
 
@@ -26,7 +26,7 @@ void AppModel::startSchedule() {
 }
 
 void AppModel::recordApplied(const QStringList& signature) {
-    Clock& clock = Platform::current().clock;
+    Clock& clock = Services::current().clock;
     m_store.settings.lastAppliedSignature = signature;
     m_store.settings.lastApplied = clock.now();
     m_store.settings.autoPaused = false;
@@ -37,7 +37,7 @@ void AppModel::recordApplied(const QStringList& signature) {
 bool AppModel::isDue() const {
     if (!settings().lastApplied)
         return true;
-    Clock& clock = Platform::current().clock;
+    Clock& clock = Services::current().clock;
     // Within one run the time that really passed counts, so that a clock set forward makes nothing due early.
     const std::chrono::duration<double> passed =
         m_appliedElapsed ? std::chrono::duration<double>(clock.elapsed() - *m_appliedElapsed)
@@ -57,7 +57,7 @@ void AppModel::autoCheck() {
     tracker().flush();
     refresh([this] {
         if (!settings().autoPaused)
-            applyActive(Voice::silent);
+            applyActive(Notify::failuresOnly);
     });
 }
 
@@ -73,7 +73,7 @@ void AppModel::detectManualChange() {
 void AppModel::resumeAuto(Reply reply) {
     m_store.settings.autoPaused = false;
     saveSettings();
-    applyActive(Voice::spoken, std::move(reply));
+    applyActive(Notify::always, std::move(reply));
 }
 
 void AppModel::setAutoUpdate(AutoUpdate interval) {

@@ -1,6 +1,6 @@
 #include "Kelvane/Uninstall.h"
 
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "Kelvane/Ports/LoginItem.h"
 
 #include <QTextStream>

@@ -1,7 +1,7 @@
 #include "Kelvane/UsageTracker.h"
 
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Clock.h"
+#include "DockCore/Services.h"
 #include "DockCore/UsageStore.h"
 
 namespace Kelvane {
@@ -18,7 +18,7 @@ constexpr auto idleLimit = 300s;
 constexpr qint64 ticksPerSave = 6;
 
 DockCore::Clock& clock() {
-    return DockCore::Platform::current().clock;
+    return DockCore::Services::current().clock;
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 // The resident application: one process a support folder, with a status item, a window when asked for, and the commands
 // of the command line.
 
-#include "DockCore/Paths.h"
-#include "DockCore/Platform.h"
+#include "DockCore/Services.h"
+#include "DockCore/Storage/Paths.h"
 #include "Kelvane/AppModel.h"
 #include "Kelvane/Commands/CommandClient.h"
 #include "Kelvane/Commands/CommandRunner.h"
@@ -16,8 +16,8 @@
 #include "Platform/Posix/TerminationSignals.h"
 #include "Platform/Posix/UnaskedExit.h"
 #include "Platform/SelfTest.h"
-#include "Platform/SystemDesktop.h"
-#include "Platform/SystemPlatform.h"
+#include "Platform/SystemServices.h"
+#include "Platform/SystemSession.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -32,10 +32,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto answerPatience = 5s;
+constexpr auto answerTimeout = 5s;
 /// A command that holds the lock may be changing the Dock.
-constexpr auto turnPatience = 60s;
-constexpr auto turnPause = 20ms;
+constexpr auto lockTimeout = 60s;
+constexpr auto lockRetryInterval = 20ms;
 
 constexpr auto help = R"(Keeps the Dock in step with how you work.
 
@@ -55,27 +55,27 @@ Environment
   KELVANE_SHOTS    a folder to draw every screen into; the application ends afterwards
 )";
 
-enum class Turn { ours, shownByOther, impossible };
+enum class LockResult { acquired, shownByOther, timedOut };
 
 /// Becomes the one application of the support folder, or asks the one that runs to show its window.
-Turn takeTurn(InstanceLock& lock, const QString& socket) {
-    const QDeadlineTimer deadline(turnPatience);
+LockResult acquire(InstanceLock& lock, const QString& socket) {
+    const QDeadlineTimer deadline(lockTimeout);
     while (lock.tryAcquire() == InstanceLock::State::busy) {
         const auto reply =
-            CommandClient::ask(socket, {.kind = CommandRequest::Kind::showWindow}, Terminal::userID(), answerPatience);
+            CommandClient::ask(socket, {.kind = CommandRequest::Kind::showWindow}, Terminal::userID(), answerTimeout);
         if (std::holds_alternative<Answer>(reply))
-            return Turn::shownByOther;
+            return LockResult::shownByOther;
         if (deadline.hasExpired())
-            return Turn::impossible;
-        QThread::msleep(std::chrono::milliseconds(turnPause).count());
+            return LockResult::timedOut;
+        QThread::msleep(std::chrono::milliseconds(lockRetryInterval).count());
     }
-    return Turn::ours;
+    return LockResult::acquired;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    SystemDesktop::prepareEnvironment();
+    SystemSession::prepareEnvironment();
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Kelvane"_s);
     QApplication::setApplicationVersion(QStringLiteral(KELVANE_VERSION));
@@ -93,28 +93,28 @@ int main(int argc, char** argv) {
     if (arguments.contains(u"--selftest"))
         return runSelfTest();
 
-    SystemPlatform system;
-    const DockCore::PlatformScope scope(system.platform());
+    SystemServices system;
+    const DockCore::ServicesScope scope(system.platform());
     if (arguments.contains(u"--uninstall")) {
         QTextStream output(stdout);
-        return Uninstall::run(SystemDesktop().loginItem(), output);
+        return Uninstall::run(SystemSession().loginItem(), output);
     }
     const QString support = DockCore::Paths::support();
     const QString socket = commandSocketPath(support);
     InstanceLock lock(support);
-    switch (takeTurn(lock, socket)) {
-    case Turn::ours:
+    switch (acquire(lock, socket)) {
+    case LockResult::acquired:
         break;
-    case Turn::shownByOther:
+    case LockResult::shownByOther:
         return 0;
-    case Turn::impossible:
+    case LockResult::timedOut:
         std::fputs("Kelvane seems to be running but does not answer.\n", stderr);
         return 1;
     }
 
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::received, &application, &QCoreApplication::quit);
-    SystemDesktop desktop;
+    SystemSession desktop;
     AppModel model(&desktop.workspace(), &desktop.loginItem());
     CommandRunner runner(model);
     AppDelegate delegate(model, desktop.desktop(), desktop.images(), WindowModule::makeWindow);

@@ -1,14 +1,14 @@
 // The command line: arguments in, one operation of the model, text or JSON out. It asks the application that runs, and
 // does the work itself when none does.
 
-#include "DockCore/Paths.h"
-#include "DockCore/Platform.h"
+#include "DockCore/Services.h"
+#include "DockCore/Storage/Paths.h"
 #include "Kelvane/AppModel.h"
 #include "Kelvane/Commands/CommandClient.h"
 #include "Kelvane/Commands/CommandRunner.h"
 #include "Kelvane/Commands/InstanceLock.h"
 #include "Platform/Posix/Terminal.h"
-#include "Platform/SystemPlatform.h"
+#include "Platform/SystemServices.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -23,10 +23,10 @@ using namespace std::chrono_literals;
 namespace {
 
 /// A change of the Dock takes up to twenty seconds, and several may wait in a row.
-constexpr auto answerPatience = 120s;
+constexpr auto answerTimeout = 120s;
 /// How long another command may take before this one gives up waiting for its turn.
-constexpr auto turnPatience = 120s;
-constexpr auto turnPause = 5ms;
+constexpr auto lockTimeout = 120s;
+constexpr auto lockRetryInterval = 5ms;
 
 void print(const QString& text, FILE* stream) {
     const QByteArray bytes = text.toUtf8();
@@ -69,9 +69,9 @@ Answer carryOut(QCoreApplication& application, const Command& command, Colour co
     const QString socket = commandSocketPath(support);
     const CommandRequest request{.arguments = QCoreApplication::arguments().mid(1), .colour = colour};
     InstanceLock lock(support);
-    const QDeadlineTimer deadline(turnPatience);
+    const QDeadlineTimer deadline(lockTimeout);
     while (true) {
-        const auto reply = CommandClient::ask(socket, request, Terminal::userID(), answerPatience);
+        const auto reply = CommandClient::ask(socket, request, Terminal::userID(), answerTimeout);
         if (const auto* answer = std::get_if<Answer>(&reply))
             return *answer;
         const auto silence = std::get<CommandClient::Silence>(reply);
@@ -83,7 +83,7 @@ Answer carryOut(QCoreApplication& application, const Command& command, Colour co
             return runHere(application, command, colour);
         if (deadline.hasExpired())
             return failed(u"Another command has been changing the Dock for too long. Try again later."_s);
-        QThread::msleep(std::chrono::milliseconds(turnPause).count());
+        QThread::msleep(std::chrono::milliseconds(lockRetryInterval).count());
     }
 }
 
@@ -103,8 +103,8 @@ int main(int argc, char** argv) {
     if (const auto* mistake = std::get_if<CommandMistake>(&command))
         return finish({.status = Answer::mistaken, .error = mistake->sentence});
 
-    SystemPlatform system;
-    const DockCore::PlatformScope scope(system.platform());
+    SystemServices system;
+    const DockCore::ServicesScope scope(system.platform());
     const Colour colour = Terminal::showsColours() ? Colour::terminal : Colour::none;
     return finish(carryOut(application, std::get<Command>(command), colour));
 }

@@ -1,6 +1,6 @@
 #include "DockCore/AppCatalog.h"
 
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 
 #include <QLocale>
 #include <QTest>
@@ -294,7 +294,7 @@ private Q_SLOTS:
         Fakes::Folders folders;
         folders.listing[u"/Applications"_s] = {u"/Applications/A.app"_s};
         bundles.add(u"/Applications/A.app"_s, u"com.a"_s, u"A"_s);
-        const PlatformScope scope(
+        const ServicesScope scope(
             {m_world->preferences, m_world->processes, bundles, folders, m_world->metadata, m_world->clock});
         QVERIFY(!catalog.isInstalled(u"com.known"_s));
         bundles.isAsked = true;

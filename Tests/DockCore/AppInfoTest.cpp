@@ -1,6 +1,6 @@
 #include "DockCore/AppInfo.h"
 
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 #include "Support/Strictness.h"
 #include "Support/ValueTraits.h"
 

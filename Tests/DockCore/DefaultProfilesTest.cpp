@@ -1,7 +1,7 @@
 #include "DockCore/DefaultProfiles.h"
 
 #include "DockCore/AppCatalog.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 #include "DockCore/DockStore.h"
 
 #include "Support/DockNotation.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 #include "Support/Files.h"
 #include "Support/FullDisk.h"
 

@@ -1,7 +1,7 @@
 #include "DockCore/LayoutPlanner.h"
 
 #include "DockCore/AppCatalog.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 #include "Support/Seeds.h"
 
 #include <QTest>

@@ -1,9 +1,9 @@
 #include "DockCore/ProfileStore.h"
 
-#include "DockCore/JSONFile.h"
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/Paths.h"
 #include "Support/ChildProcess.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 #include "Support/Files.h"
 
 #include <QDir>

@@ -2,7 +2,7 @@
 
 #include "DockCore/AppCatalog.h"
 #include "DockCore/UsageStore.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 #include "Support/Seeds.h"
 #include "Support/TimeZone.h"
 #include "Support/ValueTraits.h"

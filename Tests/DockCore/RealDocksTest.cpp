@@ -1,7 +1,7 @@
 #include "DockCore/AppInfo.h"
 #include "DockCore/DockStore.h"
 #include "DockCore/SnapshotStore.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 
 #include <QDirIterator>
 #include <QtTest>

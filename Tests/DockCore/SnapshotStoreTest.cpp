@@ -1,9 +1,9 @@
 #include "DockCore/SnapshotStore.h"
 
 #include "DockCore/DockStore.h"
-#include "DockCore/JSONFile.h"
+#include "DockCore/Storage/JSONFile.h"
 #include "Support/DockNotation.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 #include "Support/Files.h"
 #include "Support/FullDisk.h"
 

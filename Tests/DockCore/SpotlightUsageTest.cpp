@@ -1,6 +1,6 @@
 #include "DockCore/SpotlightUsage.h"
 
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 #include "Support/TimeZone.h"
 #include "Support/ValueTraits.h"
 

@@ -1,7 +1,7 @@
 #include "DockCore/UsageStore.h"
 
 #include "Support/ChildProcess.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 #include "Support/Files.h"
 #include "Support/Strictness.h"
 #include "Support/TimeZone.h"

@@ -1,6 +1,6 @@
 #include "DockCore/DockStore.h"
-#include "DockCore/Platform.h"
-#include "Platform/Linux/LinuxPlatform.h"
+#include "DockCore/Services.h"
+#include "Platform/Linux/LinuxServices.h"
 #include "Support/DockNotation.h"
 #include "Support/Files.h"
 
@@ -111,8 +111,8 @@ void RestartTest::writesUntilTheDockKeepsTheList() {
     const LivingDock dock(reverts);
     QVERIFY(dock.isReady());
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(dock.configuration()));
-    LinuxPlatform computer;
-    const DockCore::PlatformScope scope(computer.platform());
+    LinuxServices computer;
+    const DockCore::ServicesScope scope(computer.platform());
     QVERIFY(DockStore::isDockRunning());
     QCOMPARE(layoutSignature(DockStore::currentTiles()), layoutSignature(tiles(before)));
 

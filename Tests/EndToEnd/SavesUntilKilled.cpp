@@ -1,8 +1,8 @@
 // Records ten seconds and saves, over and over, and says after each save how many seconds are in the file by now.
 
-#include "DockCore/Platform.h"
+#include "DockCore/Services.h"
 #include "DockCore/UsageStore.h"
-#include "Platform/SystemPlatform.h"
+#include "Platform/SystemServices.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -10,8 +10,8 @@
 #include <cstdio>
 
 int main(int, char** argv) {
-    SystemPlatform system;
-    const DockCore::PlatformScope scope(system.platform());
+    SystemServices system;
+    const DockCore::ServicesScope scope(system.platform());
     DockCore::UsageStore usage(QFile::decodeName(argv[1]));
     const QDateTime now = QDateTime::currentDateTimeUtc();
     const QString mail = QStringLiteral("com.example.Mail");

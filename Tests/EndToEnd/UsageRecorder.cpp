@@ -1,11 +1,11 @@
 // The tracker as a process of its own, without the rest of the application: records until it is asked to end, then says
 // how often its event loop woke.
 
-#include "DockCore/Paths.h"
-#include "DockCore/Platform.h"
+#include "DockCore/Services.h"
+#include "DockCore/Storage/Paths.h"
 #include "DockCore/UsageStore.h"
 #include "Kelvane/UsageTracker.h"
-#include "Platform/Linux/LinuxPlatform.h"
+#include "Platform/Linux/LinuxServices.h"
 #include "Platform/Linux/X11Workspace.h"
 #include "Platform/Posix/TerminationSignals.h"
 
@@ -16,10 +16,10 @@
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
-    LinuxPlatform system;
-    const DockCore::PlatformScope scope(system.platform());
+    LinuxServices system;
+    const DockCore::ServicesScope scope(system.platform());
     const TerminationSignals signals;
-    Linux::X11Workspace workspace;
+    Platform::X11Workspace workspace;
     DockCore::UsageStore usage(DockCore::Paths::usage());
     Kelvane::UsageTracker tracker(usage, &workspace);
     QObject::connect(&signals, &TerminationSignals::received, &tracker, [&tracker] {

@@ -1,6 +1,6 @@
 #include "Kelvane/AppModel.h"
 
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "Kelvane/UsageTracker.h"
 #include "Support/FakeWorkspace.h"
 #include "Support/ModelWorld.h"
@@ -106,7 +106,7 @@ void AppModelTest::everyBundleIsReadOncePerRefresh() {
 void AppModelTest::applyWritesTheProposalAfterSavingTheDock() {
     QVERIFY(refreshAndWait(*model));
     std::optional<Outcome> outcome;
-    model->applyActive(AppModel::Voice::spoken, [&outcome](const Outcome& result) { outcome = result; });
+    model->applyActive(AppModel::Notify::always, [&outcome](const Outcome& result) { outcome = result; });
     QVERIFY(model->isWorking());
     QVERIFY(waitForChange(*model));
     QCOMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
@@ -123,7 +123,7 @@ void AppModelTest::applyWritesTheProposalAfterSavingTheDock() {
 void AppModelTest::applyToAMatchingDockOnlyConfirmsIt() {
     world->setDock({u"c"_s, u"a"_s});
     const int saves = world->preferences.saves;
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(!model->isWorking());
     QCOMPARE(model->toast(), (Toast{u"Your Dock already matches Work."_s, false}));
     QCOMPARE(world->preferences.saves, saves);
@@ -135,7 +135,7 @@ void AppModelTest::applyToAMatchingDockOnlyConfirmsIt() {
 
 void AppModelTest::anEmptyProposalNeverEmptiesTheDock() {
     pinActive(*model, {});
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(!model->isWorking());
     QCOMPARE(model->toast(), (Toast{u"Work has no apps yet. Add some in Profiles."_s, true}));
     QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
@@ -146,9 +146,9 @@ void AppModelTest::applyWhileAChangeRunsDoesNothing() {
     Gate gate;
     world->holdRestarts(gate);
     QVERIFY(refreshAndWait(*model));
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     std::optional<Outcome> outcome;
-    model->applyActive(AppModel::Voice::spoken, [&outcome](const Outcome& result) { outcome = result; });
+    model->applyActive(AppModel::Notify::always, [&outcome](const Outcome& result) { outcome = result; });
     QVERIFY(outcome && outcome->refused);
     QVERIFY(!model->toast());
     gate.open();
@@ -161,7 +161,7 @@ void AppModelTest::restoreWhileAChangeRunsDoesNothing() {
     world->holdRestarts(gate);
     model->captureOriginal();
     QVERIFY(refreshAndWait(*model));
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     std::optional<Outcome> outcome;
     model->restore(model->snapshots().constFirst(), [&outcome](const Outcome& result) { outcome = result; });
     QVERIFY(outcome && outcome->refused);
@@ -172,22 +172,22 @@ void AppModelTest::restoreWhileAChangeRunsDoesNothing() {
 
 void AppModelTest::aSilentApplySaysNothing() {
     QVERIFY(refreshAndWait(*model));
-    model->applyActive(AppModel::Voice::silent);
+    model->applyActive(AppModel::Notify::failuresOnly);
     QVERIFY(waitForChange(*model));
     QCOMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
     QVERIFY(!model->toast());
     QVERIFY(model->settings().lastAppliedSignature);
-    model->applyActive(AppModel::Voice::silent);
+    model->applyActive(AppModel::Notify::failuresOnly);
     QVERIFY(!model->toast());
     pinActive(*model, {});
-    model->applyActive(AppModel::Voice::silent);
+    model->applyActive(AppModel::Notify::failuresOnly);
     QVERIFY(!model->toast());
 }
 
 void AppModelTest::aFailedSilentApplyIsStillTold() {
     QVERIFY(refreshAndWait(*model));
     world->preferences.refusesToSave = true;
-    model->applyActive(AppModel::Voice::silent);
+    model->applyActive(AppModel::Notify::failuresOnly);
     QVERIFY(waitForChange(*model));
     QCOMPARE(model->toast(), (Toast{u"macOS refused to save the Dock settings."_s, true}));
 }
@@ -202,7 +202,7 @@ void AppModelTest::aDockThatDoesNotHoldIsToldAndChangesNoSettings() {
     };
     const AppSettings settings = model->settings();
     std::optional<Outcome> outcome;
-    model->applyActive(AppModel::Voice::spoken, [&outcome](const Outcome& result) { outcome = result; });
+    model->applyActive(AppModel::Notify::always, [&outcome](const Outcome& result) { outcome = result; });
     QVERIFY(waitForChange(*model));
     QCOMPARE(model->toast(), (Toast{u"The Dock settings did not stick. Nothing was changed."_s, true}));
     QVERIFY(outcome && outcome->isError && !outcome->changed);
@@ -217,7 +217,7 @@ void AppModelTest::nothingIsWrittenWhenTheDockCannotBeSaved() {
     QFile blocker(Paths::support() + u"/Snapshots"_s);
     QVERIFY(blocker.open(QIODevice::WriteOnly));
     const int saves = world->preferences.saves;
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(waitForChange(*model));
     QVERIFY(model->toast() && model->toast()->isError);
     QVERIFY(!model->toast()->text.isEmpty());
@@ -227,12 +227,12 @@ void AppModelTest::nothingIsWrittenWhenTheDockCannotBeSaved() {
 
 void AppModelTest::readingTheDockDuringOurOwnChangeIsNoManualChange() {
     QVERIFY(refreshAndWait(*model));
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(waitForChange(*model));
     pinActive(*model, {u"e"_s});
     Gate gate;
     world->holdRestarts(gate);
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QTRY_COMPARE(world->dock(), QStringList{u"e"_s});
     model->refresh();
     QVERIFY(!model->settings().autoPaused);
@@ -243,7 +243,7 @@ void AppModelTest::readingTheDockDuringOurOwnChangeIsNoManualChange() {
 
 void AppModelTest::restorePutsTheDockBackAndPauses() {
     QVERIFY(refreshAndWait(*model));
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(waitForChange(*model));
     model->restorePrevious();
     QVERIFY(waitForChange(*model));
@@ -257,7 +257,7 @@ void AppModelTest::restorePutsTheDockBackAndPauses() {
 void AppModelTest::restoreWithUpdatesOffDoesNotPause() {
     model->setAutoUpdate(AutoUpdate::off);
     QVERIFY(refreshAndWait(*model));
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(waitForChange(*model));
     model->restorePrevious();
     QVERIFY(waitForChange(*model));
@@ -338,7 +338,7 @@ void AppModelTest::applyGoesByTheDockAsItIsNow() {
         tiles.append(PropertyList{raw});
     }
     world->preferences.stored.insert(u"persistent-apps"_s, PropertyList{tiles});
-    model->applyActive(AppModel::Voice::silent);
+    model->applyActive(AppModel::Notify::failuresOnly);
     QVERIFY(waitForChange(*model));
     QCOMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
     QVERIFY(DockStore::currentTiles().constFirst().raw.contains(u"mark"_s));
@@ -346,7 +346,7 @@ void AppModelTest::applyGoesByTheDockAsItIsNow() {
 
 void AppModelTest::aRestoreIsSaved() {
     QVERIFY(refreshAndWait(*model));
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(waitForChange(*model));
     QVERIFY(ProfileStore().settings.lastAppliedSignature);
     model->restorePrevious();

@@ -1,7 +1,7 @@
 #include "Kelvane/AppModel.h"
 
-#include "DockCore/JSONFile.h"
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/Paths.h"
 #include "Kelvane/UsageTracker.h"
 #include "Support/FakeWorkspace.h"
 #include "Support/ModelWorld.h"
@@ -116,7 +116,7 @@ void AutoUpdateTest::aCheckAppliesOnlyWhenEverythingSpeaksForIt_data() {
     QTest::addColumn<bool>("applies");
 
     const ModelWorld clocks;
-    const QDateTime now = DockCore::Platform::current().clock.now();
+    const QDateTime now = DockCore::Services::current().clock.now();
     const AppSettings ready = seasoned(now);
     const std::optional<Seconds> away = 1h;
     const auto with = [&ready](auto change) {
@@ -274,7 +274,7 @@ void AutoUpdateTest::theIntervalCountsFromTheLastApplyOfEitherKind() {
     world->clock.advance(59min);
     QVERIFY(!check());
     // Confirming that the Dock matches counts like an apply.
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(!model->isWorking());
     world->clock.advance(59min);
     QVERIFY(!check());
@@ -405,7 +405,7 @@ void AutoUpdateTest::aManualApplyEndsThePause() {
     AppSettings settings = seasoned(world->clock.now());
     settings.autoPaused = true;
     startWith(settings);
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(waitForChange(*model));
     QVERIFY(!model->settings().autoPaused);
     world->clock.advance(1h);
@@ -416,7 +416,7 @@ void AutoUpdateTest::aCheckDuringAChangeDoesNotOverlapIt() {
     startWith(seasoned(world->clock.now()));
     Gate gate;
     world->holdRestarts(gate);
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(model->isWorking());
     pinActive(*model, {u"d"_s});
     QSignalSpy refreshed(&*model, &AppModel::refreshed);
@@ -435,7 +435,7 @@ void AutoUpdateTest::anApplyThatOutlastsTheModelIsRecorded() {
     Gate gate;
     world->holdRestarts(gate);
     bool isAnswered = false;
-    model->applyActive(AppModel::Voice::spoken, [&isAnswered](const Outcome&) { isAnswered = true; });
+    model->applyActive(AppModel::Notify::always, [&isAnswered](const Outcome&) { isAnswered = true; });
     QTRY_COMPARE(dock(), QStringList({u"c"_s, u"a"_s}));
     gate.open();
     model.reset();

@@ -1,6 +1,6 @@
 #include "Kelvane/AppModel.h"
 
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "Kelvane/UsageTracker.h"
 #include "Support/FakeWorkspace.h"
 #include "Support/ModelWorld.h"

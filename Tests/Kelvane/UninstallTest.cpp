@@ -1,8 +1,8 @@
 #include "Kelvane/Uninstall.h"
 
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "Support/FakeLoginItem.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 
 #include <QTest>
 #include <QTextStream>

@@ -1,7 +1,7 @@
 #include "Kelvane/UsageTracker.h"
 
 #include "DockCore/UsageStore.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 #include "Support/FakeWorkspace.h"
 
 #include <QFile>
@@ -47,7 +47,7 @@ struct Desk {
         return today().activations.value(application.bundleID.value_or(QString()));
     }
     DockCore::DayUsage today() const {
-        return usage.day(DockCore::UsageStore::dayKey(DockCore::Platform::current().clock.now()))
+        return usage.day(DockCore::UsageStore::dayKey(DockCore::Services::current().clock.now()))
             .value_or(DockCore::DayUsage());
     }
     /// Whether the file was written since the last time somebody asked.

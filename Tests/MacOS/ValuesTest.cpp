@@ -34,7 +34,7 @@ private Q_SLOTS:
 
 void MacOSValuesTest::anOwnerReleasesOnce() {
     {
-        const MacOS::Owner<CFPropertyListRef> owner = FakeCoreFoundation::makeObject({u"text"_s});
+        const Platform::Owner<CFPropertyListRef> owner = FakeCoreFoundation::makeObject({u"text"_s});
         QVERIFY(owner);
         QCOMPARE(FakeCoreFoundation::liveObjects(), 1);
     }
@@ -42,18 +42,18 @@ void MacOSValuesTest::anOwnerReleasesOnce() {
 }
 
 void MacOSValuesTest::anOwnerThatIsMovedHandsOver() {
-    MacOS::Owner<CFPropertyListRef> first = FakeCoreFoundation::makeObject({u"first"_s});
-    MacOS::Owner<CFPropertyListRef> second = FakeCoreFoundation::makeObject({u"second"_s});
+    Platform::Owner<CFPropertyListRef> first = FakeCoreFoundation::makeObject({u"first"_s});
+    Platform::Owner<CFPropertyListRef> second = FakeCoreFoundation::makeObject({u"second"_s});
     const CFPropertyListRef held = first.borrow();
     second = std::move(first);
     QCOMPARE(second.borrow(), held);
-    const MacOS::Owner<CFPropertyListRef> third = std::move(second);
+    const Platform::Owner<CFPropertyListRef> third = std::move(second);
     QVERIFY(!second);
     QCOMPARE(third.borrow(), held);
 }
 
 void MacOSValuesTest::anOwnerOfNothingReleasesNothing() {
-    const MacOS::Owner<CFPropertyListRef> empty;
+    const Platform::Owner<CFPropertyListRef> empty;
     QVERIFY(!empty);
     QCOMPARE(empty.borrow(), nullptr);
 }
@@ -68,13 +68,13 @@ void MacOSValuesTest::aStringKeepsItsCharacters_data() {
 
 void MacOSValuesTest::aStringKeepsItsCharacters() {
     QFETCH(QString, text);
-    const MacOS::Owner string = MacOS::makeString(text);
+    const Platform::Owner string = Platform::makeString(text);
     QVERIFY(FakeCoreFoundation::valueOf(FakeCoreFoundation::object(string.borrow())) == PropertyList{text});
 }
 
 void MacOSValuesTest::whatIsNoPropertyListReadsAsNothing() {
-    const MacOS::Owner foreign = FakeCoreFoundation::makeForeignObject();
-    QVERIFY(!MacOS::propertyList(foreign.borrow()));
+    const Platform::Owner foreign = FakeCoreFoundation::makeForeignObject();
+    QVERIFY(!Platform::propertyList(foreign.borrow()));
 }
 
 void MacOSValuesTest::whatNestsTooDeepIsNotHandedOver() {
@@ -82,17 +82,17 @@ void MacOSValuesTest::whatNestsTooDeepIsNotHandedOver() {
     for (int level = 0; level < 600; ++level) {
         value = {PropertyList::Array{value}};
     }
-    QVERIFY(!MacOS::makePropertyList(value));
+    QVERIFY(!Platform::makePropertyList(value));
 }
 
 void MacOSValuesTest::aDateKeepsItsMilliseconds() {
-    const MacOS::Owner date = FakeCoreFoundation::makeObject({PropertyList::Date{.seconds = 0.125}});
-    QCOMPARE(MacOS::date(date.borrow()), QDateTime(QDate(2001, 1, 1), QTime(0, 0, 0, 125), Qt::UTC));
+    const Platform::Owner date = FakeCoreFoundation::makeObject({PropertyList::Date{.seconds = 0.125}});
+    QCOMPARE(Platform::date(date.borrow()), QDateTime(QDate(2001, 1, 1), QTime(0, 0, 0, 125), Qt::UTC));
 }
 
 void MacOSValuesTest::nullIsNoDate() {
-    QVERIFY(!MacOS::date(nullptr));
-    QVERIFY(!MacOS::dates(nullptr));
+    QVERIFY(!Platform::date(nullptr));
+    QVERIFY(!Platform::dates(nullptr));
 }
 
 void MacOSValuesTest::theIdleTimeIsWhatTheSystemSays_data() {
@@ -112,7 +112,7 @@ void MacOSValuesTest::theIdleTimeIsWhatTheSystemSays() {
     QFETCH(double, seconds);
     QFETCH(bool, isKnown);
     FakeCoreFoundation::computer().secondsSinceLastInput = seconds;
-    const auto idle = MacOS::inputIdleTime();
+    const auto idle = Platform::inputIdleTime();
     QCOMPARE(idle.has_value(), isKnown);
     if (isKnown) {
         QCOMPARE(idle->count(), seconds);

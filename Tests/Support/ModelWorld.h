@@ -4,7 +4,7 @@
 #include "DockCore/DockStore.h"
 #include "Kelvane/AppModel.h"
 #include "Support/FakeLoginItem.h"
-#include "Support/FakePlatform.h"
+#include "Support/FakeServices.h"
 
 #include <QSemaphore>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "Kelvane/Views/MainWindow.h"
 #include "Support/FakeDesktop.h"
 #include "Support/FakeImages.h"

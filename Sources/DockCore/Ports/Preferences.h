@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DockCore/PropertyList.h"
+#include "DockCore/Storage/PropertyList.h"
 
 #include <optional>
 

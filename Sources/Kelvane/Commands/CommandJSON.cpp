@@ -2,9 +2,9 @@
 
 #include "DockCore/DockDiff.h"
 #include "DockCore/DockStore.h"
-#include "DockCore/JSONFile.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Clock.h"
+#include "DockCore/Services.h"
+#include "DockCore/Storage/JSONFile.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -86,7 +86,7 @@ QJsonObject score(const AppScore& score) {
 
 QJsonObject rank(const AppModel& model, UsageWindow window) {
     return {{u"window"_s, days(window)},
-            {u"trackedDays"_s, model.usage().trackedDays(window, Platform::current().clock.now())},
+            {u"trackedDays"_s, model.usage().trackedDays(window, Services::current().clock.now())},
             {u"ranking"_s, array(model.rankings().value(window), score)}};
 }
 

@@ -1,6 +1,6 @@
 #include "Kelvane/Commands/CommandMessage.h"
 
-#include "DockCore/JSONFile.h"
+#include "DockCore/Storage/JSONFile.h"
 
 #include <QCryptographicHash>
 #include <QDir>

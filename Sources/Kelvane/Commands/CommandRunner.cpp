@@ -144,7 +144,7 @@ void CommandRunner::change(const Job& job) {
         return whenRefreshed([this, job] { m_model.resumeAuto(replyWith(job)); });
     if (job.command.profile)
         m_model.activate(std::get<Profile>(found).id, AppModel::Apply::no);
-    whenRefreshed([this, job] { m_model.applyActive(AppModel::Voice::spoken, replyWith(job)); });
+    whenRefreshed([this, job] { m_model.applyActive(AppModel::Notify::always, replyWith(job)); });
 }
 
 void CommandRunner::restore(const Job& job) {

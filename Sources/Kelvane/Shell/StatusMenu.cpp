@@ -56,7 +56,7 @@ void StatusMenu::addProfiles() {
 void StatusMenu::addDockCommands() {
     QAction* reorganize = m_menu.addAction(u"Reorganize Dock Now"_s, QKeySequence(Qt::CTRL | Qt::Key_R));
     connect(reorganize, &QAction::triggered, this,
-            [this] { m_model.refresh([&model = m_model] { model.applyActive(AppModel::Voice::spoken); }); });
+            [this] { m_model.refresh([&model = m_model] { model.applyActive(AppModel::Notify::always); }); });
     QAction* restore = m_menu.addAction(u"Restore Previous Dock"_s, QKeySequence(Qt::CTRL | Qt::Key_Z));
     restore->setEnabled(m_model.previousSnapshot().has_value());
     connect(restore, &QAction::triggered, this, [this] { m_model.restorePrevious(); });

@@ -2,8 +2,8 @@
 
 #include "DockCore/AppCatalog.h"
 #include "DockCore/AppInfo.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Folders.h"
+#include "DockCore/Services.h"
 #include "Kelvane/AppModel.h"
 
 #include <QDir>
@@ -28,7 +28,7 @@ AppPicker::AppPicker(AppModel& model, ProfileEditor& editor, QObject* parent)
 QUrl AppPicker::applicationsFolder() {
     const QStringList folders = AppCatalog::searchFolders();
     const auto used = std::ranges::find_if(
-        folders, [](const QString& folder) { return !Platform::current().folders.entries(folder).isEmpty(); });
+        folders, [](const QString& folder) { return !Services::current().folders.entries(folder).isEmpty(); });
     return QUrl::fromLocalFile(used == folders.end() ? folders.constFirst() : *used);
 }
 

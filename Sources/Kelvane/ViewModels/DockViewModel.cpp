@@ -1,8 +1,8 @@
 #include "Kelvane/ViewModels/DockViewModel.h"
 
 #include "DockCore/AppCatalog.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Clock.h"
+#include "DockCore/Services.h"
 #include "Kelvane/AppModel.h"
 #include "Kelvane/ViewModels/DockText.h"
 #include "Kelvane/ViewModels/ViewContext.h"
@@ -61,7 +61,7 @@ QString DockViewModel::emptyText() const {
 
 QString DockViewModel::dataNote() const {
     const DockCore::UsageWindow window = m_model.activeProfile().window;
-    const QDateTime now = DockCore::Platform::current().clock.now();
+    const QDateTime now = DockCore::Services::current().clock.now();
     return DockText::data(m_model.usage().trackedDays(window, now), window);
 }
 
@@ -96,7 +96,7 @@ void DockViewModel::editProfile() {
 }
 
 void DockViewModel::apply() {
-    m_model.applyActive(AppModel::Voice::spoken);
+    m_model.applyActive(AppModel::Notify::always);
 }
 
 void DockViewModel::resume() {

@@ -1,7 +1,7 @@
 #include "Kelvane/ViewModels/HistoryViewModel.h"
 
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Clock.h"
+#include "DockCore/Services.h"
 #include "Kelvane/AppModel.h"
 
 #include <algorithm>
@@ -30,7 +30,7 @@ bool HistoryViewModel::isWorking() const {
 }
 
 void HistoryViewModel::reload() {
-    m_snapshots.setSnapshots(m_model.snapshots(), m_model.current(), m_model.usage(), Platform::current().clock.now());
+    m_snapshots.setSnapshots(m_model.snapshots(), m_model.current(), m_model.usage(), Services::current().clock.now());
     Q_EMIT changed();
 }
 

@@ -1,8 +1,8 @@
 #include "Kelvane/ViewModels/SettingsViewModel.h"
 
-#include "DockCore/Paths.h"
-#include "DockCore/Platform.h"
 #include "DockCore/Ports/Folders.h"
+#include "DockCore/Services.h"
+#include "DockCore/Storage/Paths.h"
 #include "Kelvane/AppModel.h"
 #include "Kelvane/Ports/Desktop.h"
 #include "Kelvane/ViewModels/ScheduleText.h"
@@ -60,7 +60,7 @@ void SettingsViewModel::setTracksUsage(bool on) {
 
 QString SettingsViewModel::folder() const {
     const QString folder = Paths::support();
-    const QString home = Platform::current().folders.home();
+    const QString home = Services::current().folders.home();
     return !home.isEmpty() && folder.startsWith(home + u'/') ? u'~' + folder.mid(home.size()) : folder;
 }
 

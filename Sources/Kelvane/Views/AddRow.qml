@@ -31,7 +31,7 @@ T.AbstractButton {
         size: 14
         tint: Theme.accentText
     }
-    Words {
+    StyledText {
         x: 36
         anchors.verticalCenter: parent.verticalCenter
         text: root.text

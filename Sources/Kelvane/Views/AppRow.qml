@@ -90,7 +90,7 @@ Item {
         name: root.name
         dimmed: !root.isInstalled
     }
-    Words {
+    StyledText {
         x: 50
         width: (tag.active ? tag.x : buttons.x) - x - 8
         anchors.verticalCenter: parent.verticalCenter

@@ -31,14 +31,14 @@ Item {
         radius: Math.min(5, height / 2, width / 2)
         color: !root.isTracked ? Theme.line : root.isToday ? Theme.accent : Theme.accentMute
     }
-    Words {
+    StyledText {
         anchors { horizontalCenter: bar.horizontalCenter; bottom: bar.top; bottomMargin: 3 }
         visible: root.peak !== ""
         text: root.peak
         type: Theme.small
         color: Theme.text2
     }
-    Words {
+    StyledText {
         x: !root.labelsFill ? (root.width - width) / 2 : root.first ? 0 : root.isToday ? root.width - width
                                                                             : (root.width - width) / 2
         y: root.highest + 6

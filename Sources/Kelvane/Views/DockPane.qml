@@ -91,7 +91,7 @@ FocusScope {
         leading: ChangeSummary {
             id: summary
             width: bar.leadingWidth
-            // Words give way to a narrow window, the names on the buttons before them.
+            // StyledText give way to a narrow window, the names on the buttons before them.
             terse: figuresWidth + edit.narrowest + apply.width + 98 > bar.width
             anchors.verticalCenter: parent.verticalCenter
             added: DockViewModel.added

@@ -41,7 +41,7 @@ T.ItemDelegate {
             bundleID: root.bundleID
             name: root.name
         }
-        Words {
+        StyledText {
             x: 52
             width: root.width - x - 52
             anchors.verticalCenter: parent.verticalCenter

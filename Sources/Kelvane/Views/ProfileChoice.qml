@@ -53,13 +53,13 @@ T.RadioButton {
         x: 69
         width: strip.x - x - 16
         anchors.verticalCenter: parent.verticalCenter
-        Words {
+        StyledText {
             width: parent.width
             text: root.name
             type: Theme.headingBig
             elide: Text.ElideRight
         }
-        Words {
+        StyledText {
             width: parent.width
             text: root.line
             type: Theme.caption

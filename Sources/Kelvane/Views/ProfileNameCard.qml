@@ -19,7 +19,7 @@ Card {
         width: root.width
         height: Math.max(48, field.height + 18)
 
-        Words {
+        StyledText {
             id: nameLabel
             x: 16
             anchors.verticalCenter: parent.verticalCenter
@@ -43,7 +43,7 @@ Card {
         width: root.width
         height: icons.height + 18
 
-        Words {
+        StyledText {
             id: iconLabel
             x: 16
             y: icons.y + 15 - height / 2

@@ -40,7 +40,7 @@ T.ItemDelegate {
         size: 18
         tint: root.selected ? Theme.accentText : Theme.text2
     }
-    Words {
+    StyledText {
         id: label
         x: 38
         width: Math.min(implicitWidth, (tag.visible ? tag.x - 8 : root.width - 10) - x - ordinalLabel.width)
@@ -49,7 +49,7 @@ T.ItemDelegate {
         type: root.selected ? Theme.heading : Theme.body
         elide: Text.ElideRight
     }
-    Words {
+    StyledText {
         id: ordinalLabel
         visible: root.ordinal !== ""
         width: visible ? implicitWidth + 6 : 0

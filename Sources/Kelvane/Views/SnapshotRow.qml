@@ -101,7 +101,7 @@ Item {
             width: inner.width - 34
             icons: root.icons
         }
-        Words {
+        StyledText {
             y: root.namesY
             width: inner.width - 34
             text: root.names

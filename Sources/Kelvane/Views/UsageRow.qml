@@ -55,7 +55,7 @@ Item {
         width: root.rowWidth
         height: root.rowHeight
 
-        Words {
+        StyledText {
             width: 32
             anchors.verticalCenter: parent.verticalCenter
             horizontalAlignment: Text.AlignRight
@@ -82,13 +82,13 @@ Item {
             x: 108
             width: row.width - x - 44
             anchors.verticalCenter: parent.verticalCenter
-            Words {
+            StyledText {
                 width: parent.width
                 text: root.name
                 type: Theme.heading
                 elide: Text.ElideRight
             }
-            Words {
+            StyledText {
                 width: parent.width
                 text: root.detail
                 type: Theme.caption
@@ -105,7 +105,7 @@ Item {
             tint: Theme.text3
         }
     }
-    Words {
+    StyledText {
         visible: root.opened
         x: row.x + 108
         y: row.y + row.height - 1

@@ -1,8 +1,8 @@
 #include "Kelvane/Views/WindowFrame.h"
 
 #include "DockCore/Error.h"
-#include "DockCore/JSONFile.h"
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/Paths.h"
 
 #include <QJsonObject>
 

@@ -1,7 +1,7 @@
 #include "Platform/Linux/AutostartLoginItem.h"
 
-#include "DockCore/AtomicFile.h"
 #include "DockCore/Error.h"
+#include "DockCore/Storage/AtomicFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Linux {
+namespace Platform {
 
 namespace {
 
@@ -77,4 +77,4 @@ std::optional<QString> AutostartLoginItem::setEnabled(bool enabled) {
     return std::nullopt;
 }
 
-} // namespace Linux
+} // namespace Platform

@@ -2,7 +2,7 @@
 
 #include "Kelvane/Ports/LoginItem.h"
 
-namespace Linux {
+namespace Platform {
 
 /// The login item as desktops on Linux know it: an entry in the user's autostart folder. It asks the file each time.
 class AutostartLoginItem : public Kelvane::LoginItem {
@@ -14,4 +14,4 @@ public:
     static QString path();
 };
 
-} // namespace Linux
+} // namespace Platform

@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace Linux {
+namespace Platform {
 
 namespace {
 
@@ -113,4 +113,4 @@ FileContent FileContent::of(const QString& path, qint64 limit) {
     return content;
 }
 
-} // namespace Linux
+} // namespace Platform

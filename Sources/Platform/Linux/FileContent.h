@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace Linux {
+namespace Platform {
 
 /// Tells one state of a file or folder from another without reading it. A plain value; any thread may use its own.
 struct FileStamp {
@@ -42,4 +42,4 @@ struct FileContent {
     static FileContent of(const QString& path, qint64 limit);
 };
 
-} // namespace Linux
+} // namespace Platform

@@ -1,6 +1,6 @@
 #include "Platform/Linux/IconFile.h"
 
-#include "DockCore/PropertyList.h"
+#include "DockCore/Storage/PropertyList.h"
 #include "Platform/Linux/FileContent.h"
 
 #include <QBuffer>
@@ -14,7 +14,7 @@
 using namespace Qt::StringLiterals;
 using DockCore::PropertyList;
 
-namespace Linux {
+namespace Platform {
 
 namespace {
 
@@ -122,4 +122,4 @@ std::optional<QString> IconFile::inBundle(const QString& bundle) {
     return icons.size() == 1 ? std::optional(resources.filePath(icons.first())) : std::nullopt;
 }
 
-} // namespace Linux
+} // namespace Platform

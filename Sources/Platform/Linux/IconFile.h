@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace Linux {
+namespace Platform {
 
 /// Images in the files that bundles carry as their icons. Any thread may call it.
 namespace IconFile {
@@ -18,4 +18,4 @@ std::optional<QImage> read(const QByteArray& bytes, int size);
 std::optional<QString> inBundle(const QString& bundle);
 
 } // namespace IconFile
-} // namespace Linux
+} // namespace Platform

@@ -1,25 +1,30 @@
 #pragma once
 
-#include "Platform/Linux/AutostartLoginItem.h"
-#include "Platform/Linux/Desktop.h"
-#include "Platform/Linux/Images.h"
-#include "Platform/Linux/X11Workspace.h"
+#include "Kelvane/Ports/Desktop.h"
+#include "Platform/Linux/PortalSettings.h"
 
-/// The application's ports on Linux: owns one adapter a port. Made after the application object, by `main` alone.
-class LinuxDesktop {
+namespace Platform {
+
+/// The window's side of a Linux desktop. It sets the application's font, palette and renderer, and keeps font and
+/// palette in step with the user's settings. Make it after the application object and before the first window.
+class LinuxDesktop final : public Kelvane::Desktop {
 public:
-    /// What must be settled before the application object is made: without a display to show itself on the application
-    /// runs on without a window, keeps its schedule, and makes its pictures for a dense screen.
-    static void prepareEnvironment();
+    LinuxDesktop();
 
-    Kelvane::Workspace& workspace() { return m_workspace; }
-    Kelvane::LoginItem& loginItem() { return m_loginItem; }
-    Kelvane::Desktop& desktop() { return m_desktop; }
-    Kelvane::Images& images() { return m_images; }
+    /// There is nothing to do: a program without a window is not listed here, and one with a window is.
+    void setActivationPolicy(ActivationPolicy policy) override;
+    void setAppearance(Appearance appearance) override;
+    /// There is nothing to do: the frame is the window manager's.
+    void prepareMainWindow(QWindow& window) override;
+    /// There is none.
+    bool showAboutPanel() override;
+    void reveal(const QString& path) override;
 
 private:
-    Linux::X11Workspace m_workspace;
-    Linux::AutostartLoginItem m_loginItem;
-    Linux::Desktop m_desktop;
-    Linux::Images m_images;
+    void follow();
+
+    PortalSettings m_settings;
+    Appearance m_appearance = Appearance::system;
 };
+
+} // namespace Platform

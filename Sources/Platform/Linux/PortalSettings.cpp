@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Linux {
+namespace Platform {
 
 namespace {
 
@@ -66,4 +66,4 @@ void PortalSettings::take(const QString& group, const QString& key, const QVaria
         m_prefersReducedMotion = !value.toBool();
 }
 
-} // namespace Linux
+} // namespace Platform

@@ -5,7 +5,7 @@
 
 class QDBusVariant;
 
-namespace Linux {
+namespace Platform {
 
 /// The user's settings for appearance and text, from the desktop portal. Without a session bus or a portal they are
 /// what they are where nobody asks for anything. Main thread only.
@@ -35,4 +35,4 @@ private:
     double m_textScale = 1;
 };
 
-} // namespace Linux
+} // namespace Platform

@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Linux::RunningProcess {
+namespace Platform::RunningProcess {
 
 std::optional<DockCore::AppInfo> applicationAround(const QString& executable) {
     for (qsizetype end = executable.lastIndexOf(u'/'); end > 0; end = executable.lastIndexOf(u'/', end - 1)) {
@@ -29,4 +29,4 @@ std::optional<DockCore::AppInfo> application(qint64 process) {
     return applicationAround(QFile::decodeName(QByteArray::fromStdString(link.native())));
 }
 
-} // namespace Linux::RunningProcess
+} // namespace Platform::RunningProcess

@@ -7,7 +7,7 @@
 #include <optional>
 
 /// Which application a process on this machine belongs to. Keeps nothing; any thread may call it.
-namespace Linux::RunningProcess {
+namespace Platform::RunningProcess {
 
 /// The innermost application bundle around the program at `executable`; nothing when it lies in none.
 std::optional<DockCore::AppInfo> applicationAround(const QString& executable);
@@ -15,4 +15,4 @@ std::optional<DockCore::AppInfo> applicationAround(const QString& executable);
 /// program outside any bundle.
 std::optional<DockCore::AppInfo> application(qint64 process);
 
-} // namespace Linux::RunningProcess
+} // namespace Platform::RunningProcess

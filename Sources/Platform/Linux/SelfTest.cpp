@@ -1,11 +1,11 @@
 #include "Platform/SelfTest.h"
 
-#include "DockCore/PropertyList.h"
-#include "Platform/Linux/Clock.h"
-#include "Platform/Linux/Folders.h"
-#include "Platform/Linux/Preferences.h"
+#include "DockCore/Storage/PropertyList.h"
+#include "Platform/Linux/LinuxClock.h"
+#include "Platform/Linux/LinuxFolders.h"
+#include "Platform/Linux/LinuxPreferences.h"
 #include "Platform/Linux/X11Workspace.h"
-#include "Platform/Posix/Processes.h"
+#include "Platform/Posix/PosixProcesses.h"
 #include "Platform/SelfTestReport.h"
 
 #include <QDBusConnection>
@@ -27,27 +27,27 @@ void tellSystem(SelfTestReport& report) {
 }
 
 void tellDock(SelfTestReport& report) {
-    Linux::Preferences dock;
+    Platform::LinuxPreferences dock;
     dock.synchronize();
     const std::optional<PropertyList> tiles = dock.copyValue(u"persistent-apps"_s);
     const QString items = tiles && tiles->array() != nullptr ? u", %1 tiles"_s.arg(tiles->array()->size()) : QString();
-    report.add(Verdict::told, u"The Dock's property list"_s, Linux::Preferences::defaultPath() + items);
+    report.add(Verdict::told, u"The Dock's property list"_s, Platform::LinuxPreferences::defaultPath() + items);
 }
 
 void checkMachine(SelfTestReport& report) {
-    Linux::Folders folders;
+    Platform::LinuxFolders folders;
     report.check(!folders.home().isEmpty(), u"The home folder"_s, folders.home());
     report.check(!folders.applicationSupport().isEmpty(), u"The folder for application data"_s,
                  folders.applicationSupport());
-    report.check(Posix::Processes().run(u"/bin/sh"_s, {u"-c"_s, u"exit 7"_s}) == 7,
+    report.check(Platform::PosixProcesses().run(u"/bin/sh"_s, {u"-c"_s, u"exit 7"_s}) == 7,
                  u"A program runs and its status comes back"_s);
-    Linux::Clock clock;
+    Platform::LinuxClock clock;
     const std::chrono::nanoseconds before = clock.elapsed();
     report.check(clock.elapsed() >= before, u"Passed time does not go back"_s);
 }
 
 void tellSession(SelfTestReport& report) {
-    Linux::X11Workspace workspace;
+    Platform::X11Workspace workspace;
     const std::optional<Kelvane::RunningApplication> front = workspace.frontApplication();
     report.add(Verdict::told, u"In front"_s,
                front ? front->bundleID.value_or(front->name.value_or(u"without a name"_s)) : u"nothing"_s);
@@ -66,7 +66,7 @@ int runSelfTest() {
     tellSystem(report);
     tellDock(report);
     const QTemporaryDir folder;
-    Linux::Preferences own(folder.filePath(u"own.plist"_s));
+    Platform::LinuxPreferences own(folder.filePath(u"own.plist"_s));
     checkPreferences(report, own);
     checkMachine(report);
     tellSession(report);

@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace Linux {
+namespace Platform {
 
 namespace {
 
@@ -213,4 +213,4 @@ void SessionMonitor::sessionPropertiesChanged(const QString& interface, const QV
         Q_EMIT paused();
 }
 
-} // namespace Linux
+} // namespace Platform

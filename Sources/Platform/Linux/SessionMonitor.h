@@ -8,7 +8,7 @@
 
 class QDBusServiceWatcher;
 
-namespace Linux {
+namespace Platform {
 
 /// Hears over D-Bus that the screen is locked, that the machine sleeps and that another user takes over: the screen
 /// savers on the session bus, logind on the system bus. Either bus may be missing, end and come back. Main thread only.
@@ -49,4 +49,4 @@ private:
     bool m_hasListened = false;
 };
 
-} // namespace Linux
+} // namespace Platform

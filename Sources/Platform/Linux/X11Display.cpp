@@ -10,7 +10,7 @@
 #include <xcb/screensaver.h>
 #include <xcb/xcb.h>
 
-namespace Linux {
+namespace Platform {
 
 namespace {
 
@@ -249,4 +249,4 @@ void X11Display::note(const void* event) {
         m_activeWindowChanged = true;
 }
 
-} // namespace Linux
+} // namespace Platform

@@ -11,7 +11,7 @@
 
 struct xcb_connection_t;
 
-namespace Linux {
+namespace Platform {
 
 /// A window as its owner and the window manager describe it. A plain value.
 struct X11Window {
@@ -93,4 +93,4 @@ private:
     QSocketNotifier m_notifier;
 };
 
-} // namespace Linux
+} // namespace Platform

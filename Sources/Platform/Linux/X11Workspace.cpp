@@ -7,7 +7,7 @@
 
 using namespace std::chrono_literals;
 
-namespace Linux {
+namespace Platform {
 
 namespace {
 
@@ -117,4 +117,4 @@ void X11Workspace::announceFront() {
         Q_EMIT activated(application(*window));
 }
 
-} // namespace Linux
+} // namespace Platform

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-namespace Linux {
+namespace Platform {
 
 class X11Display;
 
@@ -39,4 +39,4 @@ private:
     bool m_screensSleep = false;
 };
 
-} // namespace Linux
+} // namespace Platform

@@ -10,7 +10,7 @@
 #import <AppKit/AppKit.h>
 #import <QuartzCore/QuartzCore.h>
 
-namespace MacOS {
+namespace Platform {
 
 /// Draws `image` into a square of `size` points at `scale` pixels a point; null when the system has no memory for it.
 /// Any thread.
@@ -19,4 +19,4 @@ QImage draw(NSImage* _Nonnull image, int size, int scale);
 /// the system has no memory for it. Main thread only.
 QImage draw(CALayer* _Nonnull layer, CGSize size, CGFloat scale, const QColor& background);
 
-} // namespace MacOS
+} // namespace Platform

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace MacOS {
+namespace Platform {
 
 namespace {
 
@@ -73,4 +73,4 @@ QImage draw(CALayer* _Nonnull layer, CGSize size, CGFloat scale, const QColor& b
     return result;
 }
 
-} // namespace MacOS
+} // namespace Platform

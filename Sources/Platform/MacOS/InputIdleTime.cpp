@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace MacOS {
+namespace Platform {
 
 std::optional<std::chrono::duration<double>> inputIdleTime() {
     const double seconds =
@@ -17,4 +17,4 @@ std::optional<std::chrono::duration<double>> inputIdleTime() {
     return std::chrono::duration<double>(seconds);
 }
 
-} // namespace MacOS
+} // namespace Platform

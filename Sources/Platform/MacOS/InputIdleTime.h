@@ -3,10 +3,10 @@
 #include <chrono>
 #include <optional>
 
-namespace MacOS {
+namespace Platform {
 
 /// Time since the user's last input of any kind in this session; nothing while the system does not know it yet.
 /// Any thread.
 std::optional<std::chrono::duration<double>> inputIdleTime();
 
-} // namespace MacOS
+} // namespace Platform

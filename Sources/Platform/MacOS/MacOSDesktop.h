@@ -1,25 +1,30 @@
 #pragma once
 
-#include "Platform/MacOS/Desktop.h"
-#include "Platform/MacOS/Images.h"
-#include "Platform/MacOS/LoginItem.h"
-#include "Platform/MacOS/Workspace.h"
+#include "Kelvane/Ports/Desktop.h"
 
-/// The application's ports on macOS: owns one adapter a port. Made after the application object, by `main` alone.
-class MacOSDesktop {
+#include <memory>
+
+namespace Platform {
+
+class NotificationObservers;
+
+/// The desktop through AppKit. Main thread only.
+class MacOSDesktop final : public Kelvane::Desktop {
 public:
-    /// What must be settled before the application object is made: a start brings nothing to the front, as for one at
-    /// login. The window does, when it is shown.
-    static void prepareEnvironment() { qputenv("QT_MAC_DISABLE_FOREGROUND_APPLICATION_TRANSFORM", "1"); }
+    /// Keeps the application's "reducedMotion" in step with the user's setting from now on.
+    MacOSDesktop();
+    ~MacOSDesktop() override;
 
-    Kelvane::Workspace& workspace() { return m_workspace; }
-    Kelvane::LoginItem& loginItem() { return m_loginItem; }
-    Kelvane::Desktop& desktop() { return m_desktop; }
-    Kelvane::Images& images() { return m_images; }
+    /// `regular` also brings the application to the front: one that just became regular is behind all others.
+    void setActivationPolicy(ActivationPolicy policy) override;
+    void setAppearance(Appearance appearance) override;
+    void prepareMainWindow(QWindow& window) override;
+    /// It takes what it says from the bundle's Info.plist.
+    bool showAboutPanel() override;
+    void reveal(const QString& path) override;
 
 private:
-    MacOS::Workspace m_workspace;
-    MacOS::LoginItem m_loginItem;
-    MacOS::Desktop m_desktop;
-    MacOS::Images m_images;
+    std::unique_ptr<NotificationObservers> m_observers;
 };
+
+} // namespace Platform

@@ -4,7 +4,7 @@
 
 class QWindow;
 
-namespace MacOS {
+namespace Platform {
 
 /// Keeps the look of a main window on a window, whose native window is made late and may be made again. It belongs to
 /// the window and lives as long. Main thread only.
@@ -23,4 +23,4 @@ private:
     QWindow& m_window;
 };
 
-} // namespace MacOS
+} // namespace Platform

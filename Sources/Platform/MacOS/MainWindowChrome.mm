@@ -5,7 +5,7 @@
 
 #import <AppKit/AppKit.h>
 
-namespace MacOS {
+namespace Platform {
 
 MainWindowChrome::MainWindowChrome(QWindow& window)
     : QObject(&window)
@@ -47,4 +47,4 @@ void MainWindowChrome::dress() {
     }
 }
 
-} // namespace MacOS
+} // namespace Platform

@@ -4,7 +4,7 @@
 
 #import <Foundation/Foundation.h>
 
-namespace MacOS {
+namespace Platform {
 
 /// Blocks that are called on the main thread when something is notified; they end with this object, which must end on
 /// the main thread too. For Objective-C++ only.
@@ -37,4 +37,4 @@ private:
     QList<Observer> m_all;
 };
 
-} // namespace MacOS
+} // namespace Platform

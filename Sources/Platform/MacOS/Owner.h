@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace MacOS {
+namespace Platform {
 
 /// Owns one reference to a CoreFoundation object, as every Create and Copy function hands it out, and releases it once.
 /// It may hold nothing. Not a way to keep what a Get function gave. As safe to share between threads as the object.
@@ -37,4 +37,4 @@ private:
     Reference m_reference = nullptr;
 };
 
-} // namespace MacOS
+} // namespace Platform

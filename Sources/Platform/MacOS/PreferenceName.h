@@ -2,7 +2,7 @@
 
 #include "Platform/MacOS/Values.h"
 
-namespace MacOS {
+namespace Platform {
 
 /// A name that the preferences functions take. Those functions take a key and a domain as two strings of one type; here
 /// they are two types, so that the compiler sees when they are swapped. Immutable; any thread.
@@ -20,4 +20,4 @@ private:
 using PreferenceKey = PreferenceName<struct KeyRole>;
 using PreferenceDomain = PreferenceName<struct DomainRole>;
 
-} // namespace MacOS
+} // namespace Platform

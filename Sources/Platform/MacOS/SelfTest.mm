@@ -1,16 +1,16 @@
 #include "Platform/SelfTest.h"
 
-#include "DockCore/PropertyList.h"
-#include "Platform/MacOS/Bundles.h"
-#include "Platform/MacOS/Folders.h"
-#include "Platform/MacOS/Images.h"
-#include "Platform/MacOS/LoginItem.h"
-#include "Platform/MacOS/Metadata.h"
-#include "Platform/MacOS/Preferences.h"
+#include "DockCore/Storage/PropertyList.h"
+#include "Platform/MacOS/MacOSBundles.h"
+#include "Platform/MacOS/MacOSFolders.h"
+#include "Platform/MacOS/MacOSImages.h"
+#include "Platform/MacOS/MacOSLoginItem.h"
+#include "Platform/MacOS/MacOSMetadata.h"
+#include "Platform/MacOS/MacOSPreferences.h"
+#include "Platform/MacOS/MacOSWorkspace.h"
 #include "Platform/MacOS/SystemInterfaces.h"
 #include "Platform/MacOS/Values.h"
-#include "Platform/MacOS/Workspace.h"
-#include "Platform/Posix/Processes.h"
+#include "Platform/Posix/PosixProcesses.h"
 #include "Platform/SelfTestReport.h"
 
 #include <QSysInfo>
@@ -26,8 +26,8 @@ using Verdict = SelfTestReport::Verdict;
 
 namespace {
 
-bool isThere(const MacOS::SystemInterface& interface) {
-    using Kind = MacOS::SystemInterface::Kind;
+bool isThere(const Platform::SystemInterface& interface) {
+    using Kind = Platform::SystemInterface::Kind;
     if (interface.kind == Kind::symbol) {
         return dlsym(RTLD_DEFAULT, interface.name) != nullptr;
     }
@@ -41,8 +41,8 @@ bool isThere(const MacOS::SystemInterface& interface) {
                                                : [type instancesRespondToSelector:selector] != NO;
 }
 
-QString title(const MacOS::SystemInterface& interface) {
-    using Kind = MacOS::SystemInterface::Kind;
+QString title(const Platform::SystemInterface& interface) {
+    using Kind = Platform::SystemInterface::Kind;
     const QString name = QString::fromLatin1(interface.name);
     switch (interface.kind) {
     case Kind::type:
@@ -66,7 +66,7 @@ void tellSystem(SelfTestReport& report) {
 }
 
 void checkInterfaces(SelfTestReport& report) {
-    for (const MacOS::SystemInterface& interface : MacOS::systemInterfaces()) {
+    for (const Platform::SystemInterface& interface : Platform::systemInterfaces()) {
         if (interface.firstSystem > NSProcessInfo.processInfo.operatingSystemVersion.majorVersion) {
             report.add(Verdict::told, title(interface), u"from macOS %1"_s.arg(interface.firstSystem));
         } else {
@@ -76,7 +76,7 @@ void checkInterfaces(SelfTestReport& report) {
 }
 
 void checkDock(SelfTestReport& report) {
-    MacOS::Preferences dock;
+    Platform::MacOSPreferences dock;
     report.check(dock.synchronize(), u"The Dock's preferences synchronize"_s);
     for (const QString& key : {u"persistent-apps"_s, u"persistent-others"_s, u"show-recents"_s}) {
         const std::optional<PropertyList> value = dock.copyValue(key);
@@ -84,26 +84,26 @@ void checkDock(SelfTestReport& report) {
             report.add(Verdict::told, u"The Dock's "_s + key, u"absent"_s);
             continue;
         }
-        const MacOS::Owner there = MacOS::makePropertyList(*value);
-        const std::optional<PropertyList> back = there ? MacOS::propertyList(there.borrow()) : std::nullopt;
+        const Platform::Owner there = Platform::makePropertyList(*value);
+        const std::optional<PropertyList> back = there ? Platform::propertyList(there.borrow()) : std::nullopt;
         report.check(back == value, u"The Dock's "_s + key,
                      value->array() == nullptr ? QString() : u"%1 items"_s.arg(value->array()->size()));
     }
-    report.check(Posix::Processes().run(u"/usr/bin/pgrep"_s, {u"-x"_s, u"Dock"_s}) == 0, u"The Dock runs"_s);
+    report.check(Platform::PosixProcesses().run(u"/usr/bin/pgrep"_s, {u"-x"_s, u"Dock"_s}) == 0, u"The Dock runs"_s);
 }
 
 void checkApplications(SelfTestReport& report) {
-    MacOS::Bundles bundles;
+    Platform::MacOSBundles bundles;
     const QString finder = u"com.apple.finder"_s;
     const std::optional<QString> path = bundles.path(finder);
     report.check(path.has_value(), u"The workspace knows the Finder"_s, path.value_or(QString()));
     if (path) {
         report.check(bundles.identifier(*path) == finder, u"Its bundle has its identifier"_s);
         report.check(!bundles.displayName(*path).isEmpty(), u"It has a display name"_s, bundles.displayName(*path));
-        report.check(MacOS::Images().applicationIcon(*path, 64).has_value(), u"It has an icon"_s);
+        report.check(Platform::MacOSImages().applicationIcon(*path, 64).has_value(), u"It has an icon"_s);
     }
 
-    MacOS::Folders folders;
+    Platform::MacOSFolders folders;
     report.check(!folders.home().isEmpty(), u"The home folder"_s, folders.home());
     report.check(!folders.applicationSupport().isEmpty(), u"The application support folder"_s,
                  folders.applicationSupport());
@@ -113,7 +113,7 @@ void checkApplications(SelfTestReport& report) {
     qsizetype known = 0;
     qsizetype dated = 0;
     for (const QString& application : applications) {
-        const std::optional<DockCore::Metadata::Item> item = MacOS::Metadata().item(application);
+        const std::optional<DockCore::Metadata::Item> item = Platform::MacOSMetadata().item(application);
         known += item.has_value() ? 1 : 0;
         dated += item && (item->usedDates || item->lastUsedDate) ? 1 : 0;
     }
@@ -123,13 +123,13 @@ void checkApplications(SelfTestReport& report) {
 }
 
 void checkSession(SelfTestReport& report) {
-    MacOS::Workspace workspace;
+    Platform::MacOSWorkspace workspace;
     const std::optional<Kelvane::RunningApplication> front = workspace.frontApplication();
     report.add(Verdict::told, u"In front"_s,
                front ? front->bundleID.value_or(front->name.value_or(u"without a name"_s)) : u"nothing"_s);
     const auto idle = workspace.sinceLastInput();
     report.add(Verdict::told, u"Since the last input"_s, idle ? u"%1 s"_s.arg(idle->count(), 0, 'f', 1) : u"unknown"_s);
-    report.add(Verdict::told, u"Opens at login"_s, MacOS::LoginItem().isEnabled() ? u"yes"_s : u"no"_s);
+    report.add(Verdict::told, u"Opens at login"_s, Platform::MacOSLoginItem().isEnabled() ? u"yes"_s : u"no"_s);
     for (const QString& symbol : {u"dock.rectangle"_s, u"pause.circle"_s, u"square.stack.3d.up"_s, u"gearshape"_s}) {
         NSImage* image = [NSImage imageWithSystemSymbolName:symbol.toNSString() accessibilityDescription:nil];
         report.check(image != nil, u"The system draws "_s + symbol);
@@ -144,7 +144,7 @@ int runSelfTest() {
         tellSystem(report);
         checkInterfaces(report);
         checkDock(report);
-        MacOS::Preferences own(u"org.kelvane.Kelvane"_s);
+        Platform::MacOSPreferences own(u"org.kelvane.Kelvane"_s);
         checkPreferences(report, own);
         checkApplications(report);
         checkSession(report);

@@ -1,6 +1,6 @@
 #include "Platform/MacOS/SystemInterfaces.h"
 
-namespace MacOS {
+namespace Platform {
 
 namespace {
 using Kind = SystemInterface::Kind;
@@ -162,4 +162,4 @@ std::span<const SystemInterface> systemInterfaces() {
     return all;
 }
 
-} // namespace MacOS
+} // namespace Platform

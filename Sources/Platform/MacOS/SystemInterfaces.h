@@ -2,7 +2,7 @@
 
 #include <span>
 
-namespace MacOS {
+namespace Platform {
 
 /// One thing of the system that these adapters use, by the name under which the running system can be asked for it.
 /// A plain value.
@@ -19,4 +19,4 @@ struct SystemInterface {
 /// All of them. A test holds this list against the declarations that the adapters are checked with.
 std::span<const SystemInterface> systemInterfaces();
 
-} // namespace MacOS
+} // namespace Platform

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace MacOS {
+namespace Platform {
 
 Owner<CFStringRef> makeString(const QString& text) {
     return Owner(CFStringCreateWithCharacters(kCFAllocatorDefault, reinterpret_cast<const UniChar*>(text.utf16()),
@@ -59,4 +59,4 @@ std::optional<QList<QDateTime>> dates(CFTypeRef value) {
     return result;
 }
 
-} // namespace MacOS
+} // namespace Platform

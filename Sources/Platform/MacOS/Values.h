@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DockCore/PropertyList.h"
+#include "DockCore/Storage/PropertyList.h"
 #include "Platform/MacOS/Owner.h"
 
 #include <QDateTime>
@@ -11,7 +11,7 @@
 
 /// Our values to and from CoreFoundation's. Property lists cross as binary data through the system's own serializer, so
 /// that no type is guessed and nothing is lost. Any thread.
-namespace MacOS {
+namespace Platform {
 
 /// The string with the same characters; nothing only when memory is short.
 Owner<CFStringRef> makeString(const QString& text);
@@ -26,4 +26,4 @@ std::optional<QDateTime> date(CFTypeRef value);
 /// The moments in order; nothing when `value` is null, no array, or holds anything but dates.
 std::optional<QList<QDateTime>> dates(CFTypeRef value);
 
-} // namespace MacOS
+} // namespace Platform

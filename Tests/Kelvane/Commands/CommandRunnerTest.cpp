@@ -1,6 +1,6 @@
 #include "Kelvane/Commands/CommandRunner.h"
 
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "Support/ModelWorld.h"
 #include "Support/TimeZone.h"
 
@@ -266,7 +266,7 @@ void CommandRunnerTest::aChangeOfTheUserIsWaitedFor() {
     QVERIFY(refreshAndWait(*model));
     Gate gate;
     world->holdRestarts(gate);
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     std::optional<Answer> answer;
     runner->run({.verb = Command::Verb::restore}, Colour::none, [&answer](const Answer& result) { answer = result; });
     QVERIFY(!answer);
@@ -282,7 +282,7 @@ void CommandRunnerTest::aChangeThatOvertakesACommandIsWaitedFor() {
     std::optional<Answer> answer;
     runner->run({.verb = Command::Verb::apply}, Colour::none, [&answer](const Answer& result) { answer = result; });
     // The command is still ranking.
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(model->isWorking());
     QVERIFY(refreshAndWait(*model));
     QVERIFY(!answer);
@@ -443,7 +443,7 @@ void CommandRunnerTest::aProfileDeletedWhileACommandWaitsIsAMistake() {
     QVERIFY(refreshAndWait(*model));
     Gate gate;
     world->holdRestarts(gate);
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     const QString other = uuidString(model->profiles()[1].id);
     std::optional<Answer> answer;
     runner->run({.verb = Command::Verb::apply, .profile = other}, Colour::none,

@@ -116,7 +116,7 @@ void StatusMenuTest::namesAreShownAsTheyStand() {
 void StatusMenuTest::restoreIsDisabledWhenNothingPrecedesTheDock() {
     QVERIFY(refreshAndWait(*model));
     QVERIFY(!item(u"Restore Previous Dock"_s)->isEnabled());
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(waitForChange(*model));
     QAction* restore = item(u"Restore Previous Dock"_s);
     QVERIFY(restore->isEnabled());
@@ -127,7 +127,7 @@ void StatusMenuTest::restoreIsDisabledWhenNothingPrecedesTheDock() {
 
 void StatusMenuTest::pausedItemsComeAndGo() {
     QVERIFY(refreshAndWait(*model));
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(waitForChange(*model));
     QVERIFY(!titles().contains(u"Automatic updates paused"_s));
     world->setDock({u"e"_s});
@@ -168,7 +168,7 @@ void StatusMenuTest::reorganizeRefreshesFirst() {
 
 void StatusMenuTest::resumeRefreshesFirst() {
     QVERIFY(refreshAndWait(*model));
-    model->applyActive(AppModel::Voice::spoken);
+    model->applyActive(AppModel::Notify::always);
     QVERIFY(waitForChange(*model));
     world->setDock({u"e"_s});
     QVERIFY(refreshAndWait(*model));

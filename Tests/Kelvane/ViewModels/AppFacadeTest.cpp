@@ -89,7 +89,7 @@ private Q_SLOTS:
         model->restorePrevious();
         QTest::qWait(1000);
         const QElapsedTimer since = started();
-        model->applyActive(AppModel::Voice::spoken);
+        model->applyActive(AppModel::Notify::always);
         QCOMPARE(facade->toastText(), u"Work has no apps yet. Add some in Profiles."_s);
         QVERIFY(facade->toastIsError());
         QVERIFY(QTest::qWaitFor([&] { return facade->toastText().isEmpty(); }, 2 * AppFacade::toastMilliseconds));

@@ -1,6 +1,6 @@
 #include "Kelvane/ViewModels/HistoryViewModel.h"
 
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "Support/ModelWorld.h"
 
 #include <QAbstractItemModelTester>
@@ -138,7 +138,7 @@ private Q_SLOTS:
 private:
     QList<SnapshotRow> rows() { return pane->snapshots()->rows(); }
     void apply() {
-        model->applyActive(AppModel::Voice::silent);
+        model->applyActive(AppModel::Notify::failuresOnly);
         QVERIFY(waitForChange(*model));
         QCOMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
     }

@@ -1,7 +1,7 @@
 #include "Kelvane/ViewModels/ProfileEditor.h"
 
 #include "DockCore/AppCatalog.h"
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "Support/ModelWorld.h"
 
 #include <QAbstractItemModelTester>

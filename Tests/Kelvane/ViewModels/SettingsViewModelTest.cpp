@@ -1,6 +1,6 @@
 #include "Kelvane/ViewModels/SettingsViewModel.h"
 
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "Kelvane/UsageTracker.h"
 #include "Support/FakeDesktop.h"
 #include "Support/ModelWorld.h"
@@ -53,7 +53,7 @@ private Q_SLOTS:
 
     void thePauseIsShownAndResumed() {
         pinActive(*model, {u"b"_s, u"a"_s});
-        model->applyActive(AppModel::Voice::silent);
+        model->applyActive(AppModel::Notify::failuresOnly);
         QVERIFY(waitForChange(*model));
         world->setDock({u"e"_s});
         QSignalSpy spy(&*pane, &SettingsViewModel::changed);
@@ -68,7 +68,7 @@ private Q_SLOTS:
 
     void turningTheScheduleOffEndsThePause() {
         pinActive(*model, {u"b"_s, u"a"_s});
-        model->applyActive(AppModel::Voice::silent);
+        model->applyActive(AppModel::Notify::failuresOnly);
         QVERIFY(waitForChange(*model));
         world->setDock({u"e"_s});
         QVERIFY(refreshAndWait(*model));

@@ -1,6 +1,6 @@
 #include "Kelvane/ViewModels/UsageViewModel.h"
 
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "Support/ModelWorld.h"
 
 #include <QAbstractItemModelTester>

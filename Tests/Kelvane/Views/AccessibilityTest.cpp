@@ -25,7 +25,7 @@ private Q_SLOTS:
         QFETCH(int, step);
         WindowWorld mac;
         pinActive(*mac.model, {u"Mail"_s, u"Notes"_s});
-        mac.model->applyActive(AppModel::Voice::silent);
+        mac.model->applyActive(AppModel::Notify::failuresOnly);
         QVERIFY(mac.waitForChange());
         if (step >= 0) {
             mac.model->setOnboardingStep(step);

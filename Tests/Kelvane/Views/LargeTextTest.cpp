@@ -105,7 +105,7 @@ private:
         QFETCH(int, step);
         QFETCH(Pane, pane);
         pinActive(*mac->model, {u"Books"_s, u"Chess"_s, u"Mail"_s});
-        mac->model->applyActive(AppModel::Voice::silent);
+        mac->model->applyActive(AppModel::Notify::failuresOnly);
         QVERIFY(mac->waitForChange());
         if (step >= 0) {
             mac->model->setOnboardingStep(step);

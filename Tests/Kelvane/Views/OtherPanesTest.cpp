@@ -1,4 +1,4 @@
-#include "DockCore/Paths.h"
+#include "DockCore/Storage/Paths.h"
 #include "WindowTest.h"
 
 #include <QFile>
@@ -150,7 +150,7 @@ private:
     /// Lets the application change the Dock once, so that there is something to go back to.
     void arrange() {
         pinActive(*mac->model, {u"Books"_s, u"Chess"_s});
-        mac->model->applyActive(AppModel::Voice::silent);
+        mac->model->applyActive(AppModel::Notify::failuresOnly);
         QVERIFY(mac->waitForChange());
     }
 

@@ -73,7 +73,7 @@ void PicturesTest::initTestCase() {
     profile.excluded = ModelWorld::bundleIDs({u"Chess"_s});
     mac.model->update(profile);
     QVERIFY(refreshAndWait(*mac.model));
-    mac.model->applyActive(AppModel::Voice::silent);
+    mac.model->applyActive(AppModel::Notify::failuresOnly);
     QVERIFY(mac.waitForChange());
     mac.world.clock.advance(26h);
     mac.world.setDock({u"Maps"_s, u"Mail"_s, u"Books"_s, u"Calendar"_s, u"Terminal"_s, u"Music"_s});

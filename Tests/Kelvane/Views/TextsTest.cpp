@@ -78,7 +78,7 @@ private Q_SLOTS:
         mac.model->update(profile);
         QVERIFY(refreshAndWait(*mac.model));
         const QStringList before = mac.world.dock();
-        mac.model->applyActive(AppModel::Voice::silent);
+        mac.model->applyActive(AppModel::Notify::failuresOnly);
         QVERIFY(mac.waitForChange());
         // Put back by hand, it is the saved one again, and updates wait.
         mac.world.setDock(before);
@@ -130,7 +130,7 @@ private Q_SLOTS:
         WindowWorld mac;
         mac.open(Pane::history);
         pinActive(*mac.model, {});
-        mac.model->applyActive(AppModel::Voice::spoken);
+        mac.model->applyActive(AppModel::Notify::always);
         QVERIFY(mac.model->toast()->isError);
         QTRY_COMPARE(toastSymbol(*mac.quick()->contentItem()), u"exclamationmark.triangle.fill"_s);
         mac.model->eraseUsage();

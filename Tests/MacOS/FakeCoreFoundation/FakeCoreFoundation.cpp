@@ -192,7 +192,7 @@ MDItemRef MDItemCreate(CFAllocatorRef, CFStringRef path) {
     if (!computer().metadata.contains(text(path))) {
         return nullptr;
     }
-    MacOS::Owner<CFTypeRef> item = FakeCoreFoundation::makeForeignObject();
+    Platform::Owner<CFTypeRef> item = FakeCoreFoundation::makeForeignObject();
     auto* made = const_cast<Object*>(&object(item.borrow()));
     made->path = text(path);
     ++made->references;

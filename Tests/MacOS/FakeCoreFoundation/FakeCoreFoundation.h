@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DockCore/PropertyList.h"
+#include "DockCore/Storage/PropertyList.h"
 #include "Platform/MacOS/Owner.h"
 
 #include <QMap>
@@ -29,8 +29,8 @@ void reset();
 /// Objects that somebody still owns; constant strings do not count.
 int liveObjects();
 /// A new object with this value, one reference of which is the caller's.
-MacOS::Owner<CFPropertyListRef> makeObject(const DockCore::PropertyList& value);
+Platform::Owner<CFPropertyListRef> makeObject(const DockCore::PropertyList& value);
 /// A new object that no property list can hold.
-MacOS::Owner<CFTypeRef> makeForeignObject();
+Platform::Owner<CFTypeRef> makeForeignObject();
 
 } // namespace FakeCoreFoundation

@@ -126,14 +126,14 @@ int liveObjects() {
     return count;
 }
 
-MacOS::Owner<CFPropertyListRef> makeObject(const PropertyList& value) {
-    return MacOS::Owner<CFPropertyListRef>(makeObjectTree(value));
+Platform::Owner<CFPropertyListRef> makeObject(const PropertyList& value) {
+    return Platform::Owner<CFPropertyListRef>(makeObjectTree(value));
 }
 
-MacOS::Owner<CFTypeRef> makeForeignObject() {
+Platform::Owner<CFTypeRef> makeForeignObject() {
     auto* made = new Object;
     living().insert(made);
-    return MacOS::Owner<CFTypeRef>(made);
+    return Platform::Owner<CFTypeRef>(made);
 }
 
 } // namespace FakeCoreFoundation

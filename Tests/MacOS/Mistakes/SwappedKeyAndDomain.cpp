@@ -2,14 +2,15 @@
 #include "Platform/MacOS/PreferenceName.h"
 
 namespace {
-MacOS::Owner<CFPropertyListRef> copyAppValue(const MacOS::PreferenceKey& key, const MacOS::PreferenceDomain& domain) {
-    return MacOS::Owner<CFPropertyListRef>(CFPreferencesCopyAppValue(key.borrow(), domain.borrow()));
+Platform::Owner<CFPropertyListRef> copyAppValue(const Platform::PreferenceKey& key,
+                                                const Platform::PreferenceDomain& domain) {
+    return Platform::Owner<CFPropertyListRef>(CFPreferencesCopyAppValue(key.borrow(), domain.borrow()));
 }
 } // namespace
 
 bool swapped();
 bool swapped() {
-    const MacOS::PreferenceKey key(QStringLiteral("show-recents"));
-    const MacOS::PreferenceDomain domain(QStringLiteral("com.apple.dock"));
+    const Platform::PreferenceKey key(QStringLiteral("show-recents"));
+    const Platform::PreferenceDomain domain(QStringLiteral("com.apple.dock"));
     return static_cast<bool>(copyAppValue(domain, key));
 }

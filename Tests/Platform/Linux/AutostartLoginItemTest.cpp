@@ -40,7 +40,7 @@ class LinuxAutostartLoginItemTest : public LoginItemContract {
 
     private:
         QTemporaryDir m_config;
-        Linux::AutostartLoginItem m_loginItem;
+        Platform::AutostartLoginItem m_loginItem;
     };
     std::unique_ptr<User> makeUser() override { return std::make_unique<Desktop>(); }
 

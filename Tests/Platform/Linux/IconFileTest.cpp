@@ -7,7 +7,7 @@
 #include <QTest>
 #include <QtEndian>
 
-using namespace Linux;
+using namespace Platform;
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -14,7 +14,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-using Linux::SessionMonitor;
+using Platform::SessionMonitor;
 
 namespace {
 

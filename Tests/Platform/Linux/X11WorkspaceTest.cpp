@@ -1,7 +1,7 @@
 #include "Platform/Linux/X11Workspace.h"
 
-#include "DockCore/Platform.h"
-#include "Platform/Linux/LinuxPlatform.h"
+#include "DockCore/Services.h"
+#include "Platform/Linux/LinuxServices.h"
 #include "Platform/WorkspaceContract.h"
 #include "StandInWindows.h"
 #include "Support/PrivateDesktop.h"
@@ -18,7 +18,7 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using Kelvane::RunningApplication;
-using Linux::X11Workspace;
+using Platform::X11Workspace;
 
 /// The adapter alone before a private X server. What it does when bus or server are missing is told by its answers.
 class X11WorkspaceTest : public WorkspaceContract {
@@ -69,8 +69,8 @@ private:
     quint32 processOf(const QString& program);
     quint32 bundledWindow(const QString& name, const QByteArray& identifier);
 
-    LinuxPlatform m_platform;
-    DockCore::PlatformScope m_scope = DockCore::PlatformScope(m_platform.platform());
+    LinuxServices m_platform;
+    DockCore::ServicesScope m_scope = DockCore::ServicesScope(m_platform.platform());
     std::unique_ptr<PrivateDesktop> m_desktop;
     std::unique_ptr<QTemporaryDir> m_applications;
     std::unique_ptr<StandInWindows> m_windows;

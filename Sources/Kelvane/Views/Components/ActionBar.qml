@@ -22,7 +22,7 @@ Item {
     Hairline {
         width: root.width
     }
-    Runner {
+    IndeterminateBar {
         width: root.width
         visible: root.running
     }

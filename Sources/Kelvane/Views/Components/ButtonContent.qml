@@ -25,7 +25,7 @@ Item {
         active: root.symbol !== ""
         source: "ButtonSymbol.qml"
     }
-    Words {
+    StyledText {
         id: label
         width: Math.min(implicitWidth, root.width - root.symbolSpace)
         x: Math.round((root.width - width + root.symbolSpace) / 2)

@@ -34,7 +34,7 @@ Item {
         mark: root.mark
         idle: root.count === 0
     }
-    Words {
+    StyledText {
         id: figure
         x: 25
         anchors.verticalCenter: parent.verticalCenter
@@ -42,7 +42,7 @@ Item {
         type: root.count === 0 ? Theme.figureZero : Theme.figure
         color: root.count === 0 ? Theme.text3 : Theme.text
     }
-    Words {
+    StyledText {
         id: words
         x: figure.x + figure.width + 7
         anchors.verticalCenter: parent.verticalCenter

@@ -2,8 +2,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kelvane
 
-// Words that a screen reader reads out.
-Words {
+// StyledText that a screen reader reads out.
+StyledText {
     id: root
 
     Accessible.role: Accessible.StaticText

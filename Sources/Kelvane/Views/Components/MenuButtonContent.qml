@@ -20,7 +20,7 @@ Item {
         visible: root.symbol !== ""
         name: root.symbol
     }
-    Words {
+    StyledText {
         id: label
         x: root.textStart
         width: Math.min(implicitWidth, root.width - root.textStart - 24)

@@ -42,7 +42,7 @@ T.MenuItem {
         name: root.symbol
         tint: root.ink
     }
-    Words {
+    StyledText {
         id: label
         x: root.textStart
         width: root.width - x - 10

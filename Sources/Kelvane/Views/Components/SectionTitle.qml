@@ -15,7 +15,7 @@ Item {
     Accessible.role: Accessible.Heading
     Accessible.name: root.title
 
-    Words {
+    StyledText {
         id: heading
         width: root.beside ? implicitWidth : root.width
         text: root.title

@@ -82,7 +82,7 @@ FocusScope {
                         controlRadius: 6
                     }
                 }
-                Words {
+                StyledText {
                     id: words
                     anchors.centerIn: parent
                     text: segment.text

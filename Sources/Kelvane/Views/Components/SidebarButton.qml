@@ -63,7 +63,7 @@ Item {
         size: 18
         tint: root.current ? Theme.accentText : Theme.text2
     }
-    Words {
+    StyledText {
         id: label
         x: 38
         width: root.width - 48

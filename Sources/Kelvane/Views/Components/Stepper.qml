@@ -27,7 +27,7 @@ T.SpinBox {
             shown: root.visualFocus
         }
     }
-    contentItem: Words {
+    contentItem: StyledText {
         text: root.valueText
         type: Theme.heading
         color: root.enabled ? Theme.text : Theme.disabled

@@ -33,7 +33,7 @@ T.TextField {
             shown: root.activeFocus
         }
     }
-    Words {
+    StyledText {
         x: root.leftPadding
         width: root.width - root.leftPadding - root.rightPadding
         anchors.verticalCenter: parent.verticalCenter

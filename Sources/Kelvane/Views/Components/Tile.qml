@@ -49,7 +49,7 @@ Item {
         asynchronous: true
         opacity: root.leaving ? 0.34 : 1
     }
-    Words {
+    StyledText {
         visible: !root.spacer
         x: 2
         y: 4 + root.metrics.icon

@@ -72,7 +72,7 @@ Item {
         size: 18
         tint: symbol.isError ? Theme.danger : Theme.add
     }
-    Words {
+    StyledText {
         id: label
         x: 39
         width: root.width - 55

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Platform/Linux/AutostartLoginItem.h"
+#include "Platform/Linux/LinuxDesktop.h"
+#include "Platform/Linux/LinuxImages.h"
+#include "Platform/Linux/X11Workspace.h"
+
+/// The application's ports on Linux: owns one adapter a port. Made after the application object, by `main` alone.
+class LinuxSession {
+public:
+    /// What must be settled before the application object is made: without a display to show itself on the application
+    /// runs on without a window, keeps its schedule, and makes its pictures for a dense screen.
+    static void prepareEnvironment();
+
+    Kelvane::Workspace& workspace() { return m_workspace; }
+    Kelvane::LoginItem& loginItem() { return m_loginItem; }
+    Kelvane::Desktop& desktop() { return m_desktop; }
+    Kelvane::Images& images() { return m_images; }
+
+private:
+    Platform::X11Workspace m_workspace;
+    Platform::AutostartLoginItem m_loginItem;
+    Platform::LinuxDesktop m_desktop;
+    Platform::LinuxImages m_images;
+};

@@ -1,0 +1,10 @@
+#include "Platform/MacOS/MacOSServices.h"
+
+DockCore::Services MacOSServices::platform() {
+    return {.preferences = m_preferences,
+            .processes = m_processes,
+            .bundles = m_bundles,
+            .folders = m_folders,
+            .metadata = m_metadata,
+            .clock = m_clock};
+}

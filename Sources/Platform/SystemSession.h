@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// The application's side of the system this is built for, under one name for the program that installs it.
+#ifdef Q_OS_MACOS
+#include "Platform/MacOS/MacOSSession.h"
+using SystemSession = MacOSSession;
+#else
+#include "Platform/Linux/LinuxSession.h"
+using SystemSession = LinuxSession;
+#endif
