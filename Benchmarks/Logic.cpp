@@ -32,11 +32,10 @@ void require(bool condition, const char* what) {
     }
 }
 
-/// What `main` installs, as if the process had just started.
+/// The services and the catalog of a process that has just started.
 struct FreshComputer {
-    LinuxServices platform;
-    ServicesScope scope = ServicesScope(platform.platform());
-    AppCatalog catalog;
+    LinuxServices system;
+    AppCatalog catalog = AppCatalog(system.services().bundles, system.services().folders);
 };
 
 void openAndParse(const std::vector<QByteArray>& files) {
@@ -102,8 +101,8 @@ Stopwatch::Pair Logic::rankingAndPlanning(const Fixture& fixture, int runs) {
     return Stopwatch::medians(
         Stopwatch::Time::processor, runs,
         [&] {
-            const QList<AppScore> ranking =
-                Ranker::rank(usage, profile.window, computer.catalog, Ranker::Spotlight::include, fixture.now());
+            const QList<AppScore> ranking = Ranker::rank(usage, profile.window, computer.catalog,
+                                                         &computer.system.services().metadata, fixture.now());
             require(ranking.size() == fixture.infoFiles().size(), "not every application is ranked");
             sink = sink + LayoutPlanner::plan(profile, ranking, fixture.tiles(), computer.catalog).size();
         },
@@ -140,7 +139,7 @@ Stopwatch::Pair Logic::loadingAndSaving(const Fixture& fixture, int runs) {
             UsageStore usage(fixture.usageFile());
             require(usage.trackingSince().has_value(), "the usage file is not read");
             usage.addActivation(QStringLiteral("org.example.application0"), std::nullopt, fixture.now());
-            usage.save();
+            usage.save(fixture.now());
         },
         [&] {
             QFile file(fixture.usageFile());

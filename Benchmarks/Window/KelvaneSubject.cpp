@@ -67,7 +67,7 @@ public:
     }
 
 private:
-    /// Profiles as large as the Dock, and saved Docks.
+    /// Makes the profiles as large as the Dock.
     void fill() {
         QStringList identifiers;
         for (const DockTile& tile : m_model.current()) {
@@ -80,15 +80,23 @@ private:
             profile.adaptiveSlots = usageSlots;
             m_model.update(profile);
         }
-        for (int number = 0; number < savedDocks; ++number) {
-            m_model.snapshotStore().capture(u"Before number %1"_s.arg(number), SnapshotStore::Mark::ordinary);
-        }
     }
 
-    LinuxServices m_platform;
-    ServicesScope m_scope = ServicesScope(m_platform.platform());
-    LinuxSession m_desktop;
-    AppModel m_model = AppModel(&m_desktop.workspace(), &m_desktop.loginItem());
+    /// Saves a dozen Docks before the model reads the list.
+    static LinuxServices& filled(LinuxServices& system) {
+        const Services services = system.services();
+        DockStore dock(services.preferences, services.processes, services.clock);
+        SnapshotStore snapshots(Paths(services.folders).snapshots(), dock, services.clock);
+        for (int number = 0; number < savedDocks; ++number) {
+            snapshots.capture(u"Before number %1"_s.arg(number), SnapshotStore::Mark::ordinary);
+        }
+        return system;
+    }
+
+    LinuxServices m_system;
+    LinuxSession m_desktop = LinuxSession(filled(m_system).services());
+    AppModel m_model = AppModel(m_system.services(), Paths(m_system.services().folders), &m_desktop.workspace(),
+                                &m_desktop.loginItem());
     AppDelegate m_delegate = AppDelegate(m_model, m_desktop.desktop(), m_desktop.images(), WindowModule::makeWindow);
 };
 

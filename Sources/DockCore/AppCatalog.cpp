@@ -2,12 +2,10 @@
 
 #include "DockCore/Ports/Bundles.h"
 #include "DockCore/Ports/Folders.h"
-#include "DockCore/Services.h"
 
 #include <QCollator>
 
 #include <algorithm>
-#include <list>
 
 using namespace Qt::StringLiterals;
 
@@ -26,46 +24,16 @@ void sortByName(QList<AppInfo>& apps) {
         return collator.compare(left.name, right.name) < 0;
     });
 }
-
-/// Without the catalog's lock: this reads files.
-QList<AppInfo> scan() {
-    Folders& folders = Services::current().folders;
-    QList<AppInfo> apps;
-    QSet<QString> seen;
-    for (const QString& folder : AppCatalog::searchFolders()) {
-        for (const QString& path : folders.entries(folder)) {
-            if (!isApplication(path))
-                continue;
-            const std::optional<AppInfo> app = AppInfo::fromBundle(path);
-            if (!app || AppCatalog::ignored().contains(app->bundleID) || seen.contains(app->bundleID))
-                continue;
-            seen.insert(app->bundleID);
-            apps.append(*app);
-        }
-    }
-    sortByName(apps);
-    return apps;
-}
 } // namespace
 
-AppCatalog& AppCatalog::shared() {
-    static std::mutex lock;
-    // The earlier ones stay: a thread may still be asking one when another platform is installed.
-    static std::list<AppCatalog> catalogs;
-    static quint64 generation = 0;
+AppCatalog::AppCatalog(Bundles& bundles, Folders& folders)
+    : m_bundles(bundles)
+    , m_folders(folders) {}
 
-    const std::lock_guard guard(lock);
-    if (catalogs.empty() || generation != Services::generation()) {
-        generation = Services::generation();
-        catalogs.emplace_back();
-    }
-    return catalogs.back();
-}
-
-QStringList AppCatalog::searchFolders() {
+QStringList AppCatalog::searchFolders(Folders& folders) {
     return {u"/Applications"_s,        u"/Applications/Utilities"_s,
             u"/System/Applications"_s, u"/System/Applications/Utilities"_s,
-            u"/Applications/Setapp"_s, Services::current().folders.home() + u"/Applications"_s};
+            u"/Applications/Setapp"_s, folders.home() + u"/Applications"_s};
 }
 
 const QSet<QString>& AppCatalog::ignored() {
@@ -88,12 +56,31 @@ const QSet<QString>& AppCatalog::ignored() {
     return identifiers;
 }
 
+QList<AppInfo> AppCatalog::scan() {
+    QList<AppInfo> apps;
+    QSet<QString> seen;
+    for (const QString& folder : searchFolders(m_folders)) {
+        for (const QString& path : m_folders.entries(folder)) {
+            if (!isApplication(path))
+                continue;
+            const std::optional<AppInfo> app = AppInfo::fromBundle(path, m_bundles);
+            if (!app || ignored().contains(app->bundleID) || seen.contains(app->bundleID))
+                continue;
+            seen.insert(app->bundleID);
+            apps.append(*app);
+        }
+    }
+    sortByName(apps);
+    return apps;
+}
+
 QList<AppInfo> AppCatalog::installedApps(Scan mode) {
     if (mode == Scan::cached) {
         const std::lock_guard guard(m_lock);
         if (m_installedCache)
             return *m_installedCache;
     }
+    // Reads files, so the lock is not held.
     const QList<AppInfo> apps = scan();
     const std::lock_guard guard(m_lock);
     m_installedCache = apps;
@@ -108,17 +95,21 @@ std::optional<AppInfo> AppCatalog::info(const QString& bundleID) {
         if (const auto known = m_cache.constFind(bundleID); known != m_cache.constEnd())
             return *known;
     }
-    const std::optional<QString> path = Services::current().bundles.path(bundleID);
-    const std::optional<AppInfo> app = path ? AppInfo::fromBundle(*path) : std::nullopt;
+    const std::optional<QString> path = m_bundles.path(bundleID);
+    const std::optional<AppInfo> app = path ? AppInfo::fromBundle(*path, m_bundles) : std::nullopt;
     const std::lock_guard guard(m_lock);
     m_cache.insert(bundleID, app);
     return app;
 }
 
-void AppCatalog::add(const AppInfo& app) {
-    Services::current().bundles.remember(app.path);
+std::optional<AppInfo> AppCatalog::add(const QString& path) {
+    const std::optional<AppInfo> app = isApplication(path) ? AppInfo::fromBundle(path, m_bundles) : std::nullopt;
+    if (!app)
+        return std::nullopt;
+    m_bundles.remember(path);
     const std::lock_guard guard(m_lock);
-    keep(app);
+    keep(*app);
+    return app;
 }
 
 void AppCatalog::keep(const AppInfo& app) {

@@ -12,15 +12,17 @@
 
 namespace DockCore {
 
+class Bundles;
+class Folders;
+
 /// Which applications are installed. Answers are kept; a scan happens only on request or the first time.
 /// Any thread may call it.
 class AppCatalog {
 public:
-    /// The catalog of this process.
-    static AppCatalog& shared();
+    AppCatalog(Bundles& bundles, Folders& folders);
 
     /// In this order; where an application lies twice, the copy in the earlier folder counts.
-    static QStringList searchFolders();
+    static QStringList searchFolders(Folders& folders);
     /// The Finder, the Dock, system agents and this application: never listed, ranked or placed.
     static const QSet<QString>& ignored();
 
@@ -30,13 +32,17 @@ public:
     /// The application with this identifier wherever the computer knows it; a miss is remembered until a scan finds it.
     std::optional<AppInfo> info(const QString& bundleID);
     bool isInstalled(const QString& bundleID);
-    /// Knows from now on an application that somebody has shown, wherever it lies.
-    void add(const AppInfo& app);
+    /// Adds the application in the bundle at `path`, wherever that is, for this and later processes; nothing when it is
+    /// no application.
+    std::optional<AppInfo> add(const QString& path);
 
 private:
-    /// Under the lock; what is known to be installed stays as it is.
+    QList<AppInfo> scan();
+    /// Requires the lock; an entry that is known to be installed stays as it is.
     void keep(const AppInfo& app);
 
+    Bundles& m_bundles;
+    Folders& m_folders;
     std::mutex m_lock;
     QHash<QString, std::optional<AppInfo>> m_cache;
     std::optional<QList<AppInfo>> m_installedCache;

@@ -1,7 +1,6 @@
 #include "DockCore/AppInfo.h"
 
 #include "DockCore/Ports/Bundles.h"
-#include "DockCore/Services.h"
 #include "DockCore/Storage/JSONFile.h"
 
 #include <QHashFunctions>
@@ -11,8 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace DockCore {
 
-std::optional<AppInfo> AppInfo::fromBundle(const QString& path) {
-    Bundles& bundles = Services::current().bundles;
+std::optional<AppInfo> AppInfo::fromBundle(const QString& path, Bundles& bundles) {
     const std::optional<QString> bundleID = bundles.identifier(path);
     // An empty identifier identifies nothing.
     if (!bundleID || bundleID->isEmpty())

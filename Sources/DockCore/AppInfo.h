@@ -7,6 +7,8 @@
 
 namespace DockCore {
 
+class Bundles;
+
 /// One installed application. A plain value.
 struct AppInfo {
     QString bundleID;
@@ -17,7 +19,7 @@ struct AppInfo {
     bool operator==(const AppInfo&) const = default;
 
     /// The application in the bundle at `path`; nothing when it is no readable bundle or has no identifier.
-    static std::optional<AppInfo> fromBundle(const QString& path);
+    static std::optional<AppInfo> fromBundle(const QString& path, Bundles& bundles);
 
     QJsonValue toJson() const;
     /// Every key is required and a string; extra keys are ignored.

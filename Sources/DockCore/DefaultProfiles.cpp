@@ -1,8 +1,6 @@
 #include "DockCore/DefaultProfiles.h"
 
 #include "DockCore/AppCatalog.h"
-#include "DockCore/Ports/Clock.h"
-#include "DockCore/Services.h"
 #include "DockCore/SpotlightUsage.h"
 
 #include <QSet>
@@ -57,20 +55,20 @@ QStringList installed(const QStringList& bundleIDs, AppCatalog& catalog) {
 }
 
 /// Of those installed, the ones opened of late, latest first; where none was, the installed ones as listed.
-QStringList recent(const QStringList& bundleIDs, qsizetype most, AppCatalog& catalog) {
+QStringList recent(const QStringList& bundleIDs, qsizetype most, AppCatalog& catalog, Metadata& metadata,
+                   const QDateTime& now) {
     struct Use {
         QString bundleID;
         QDateTime lastUsed;
     };
-    Clock& clock = Services::current().clock;
-    const QDateTime cutoff = clock.now().addSecs(-secondsRecent);
+    const QDateTime cutoff = now.addSecs(-secondsRecent);
     const QStringList present = installed(bundleIDs, catalog);
     QList<Use> uses;
     for (const QString& bundleID : present) {
         const std::optional<AppInfo> app = catalog.info(bundleID);
         if (!app)
             continue;
-        const auto lastUsed = SpotlightUsage::lookup(app->path, UsageWindow::month, clock.now()).lastUsed;
+        const auto lastUsed = SpotlightUsage::lookup(metadata, app->path, UsageWindow::month, now).lastUsed;
         if (lastUsed && *lastUsed >= cutoff)
             uses.append({bundleID, *lastUsed});
     }
@@ -86,11 +84,11 @@ QStringList recent(const QStringList& bundleIDs, qsizetype most, AppCatalog& cat
 }
 } // namespace
 
-QList<Profile> DefaultProfiles::make(AppCatalog& catalog) {
+QList<Profile> DefaultProfiles::make(AppCatalog& catalog, Metadata& metadata, const QDateTime& now) {
     const QStringList launchers = installed(launcher, catalog);
     const QStringList first = launchers.first(std::min(launchers.size(), qsizetype(1)));
     const auto withRecent = [&](const QStringList& bundleIDs, qsizetype most) {
-        return first + recent(bundleIDs, most, catalog);
+        return first + recent(bundleIDs, most, catalog, metadata, now);
     };
     return {
         Profile::make(u"Everyday"_s, u"sparkles"_s, first, {}, 12, UsageWindow::month, false),

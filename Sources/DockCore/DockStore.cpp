@@ -3,14 +3,12 @@
 #include "DockCore/Ports/Clock.h"
 #include "DockCore/Ports/Preferences.h"
 #include "DockCore/Ports/Processes.h"
-#include "DockCore/Services.h"
 #include "DockCore/Storage/AtomicFile.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <chrono>
-#include <mutex>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -31,13 +29,6 @@ constexpr auto goingDown = 600ms;
 constexpr auto betweenProbes = 200ms;
 /// The new process loads its preferences and possibly writes them before they can be read back.
 constexpr auto settling = 1200ms;
-
-/// Held from the first value that is set until all are saved: a reader's `synchronize` in between would save them and
-/// be told of a refusal in the writer's place.
-std::mutex& preferencesLock() {
-    static std::mutex lock;
-    return lock;
-}
 
 QString sentence(DockError::Kind kind) {
     return kind == DockError::Kind::writeFailed ? u"macOS refused to save the Dock settings."_s
@@ -60,13 +51,6 @@ std::optional<PropertyList> valueIn(const PropertyList::Dictionary& dictionary, 
     return entry != dictionary.constEnd() ? std::optional(entry.value()) : std::nullopt;
 }
 
-/// What the dry-run file holds, after seeding it where it is missing.
-PropertyList::Dictionary dryRunContents(const QString& path) {
-    if (!QFileInfo::exists(path))
-        DockStore::seedDryRun(path);
-    return PropertyList::readDictionary(path).value_or(PropertyList::Dictionary());
-}
-
 void setDryRun(const DockChanges& changes, const QString& path) {
     PropertyList::Dictionary contents = PropertyList::readDictionary(path).value_or(PropertyList::Dictionary());
     for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
@@ -83,6 +67,11 @@ void setDryRun(const DockChanges& changes, const QString& path) {
 DockError::DockError(Kind kind)
     : Error(sentence(kind))
     , m_kind(kind) {}
+
+DockStore::DockStore(Preferences& preferences, Processes& processes, Clock& clock)
+    : m_preferences(preferences)
+    , m_processes(processes)
+    , m_clock(clock) {}
 
 const QStringList& DockStore::snapshotKeys() {
     static const QStringList keys = {appsKey, u"persistent-others"_s, u"show-recents"_s};
@@ -102,11 +91,10 @@ std::optional<QString> DockStore::dryRunFile() {
 void DockStore::seedDryRun(const QString& path) {
     PropertyList::Dictionary contents;
     {
-        const std::lock_guard guard(preferencesLock());
-        Preferences& preferences = Services::current().preferences;
-        preferences.synchronize();
+        const std::lock_guard guard(m_preferencesLock);
+        m_preferences.synchronize();
         for (const QString& key : snapshotKeys()) {
-            if (const auto value = preferences.copyValue(key))
+            if (const auto value = m_preferences.copyValue(key))
                 contents.insert(key, *value);
         }
     }
@@ -117,13 +105,19 @@ void DockStore::seedDryRun(const QString& path) {
     }
 }
 
+/// The content of the dry-run file, after seeding it where it is missing.
+PropertyList::Dictionary DockStore::dryRunContents(const QString& path) {
+    if (!QFileInfo::exists(path))
+        seedDryRun(path);
+    return PropertyList::readDictionary(path).value_or(PropertyList::Dictionary());
+}
+
 std::optional<PropertyList> DockStore::value(const QString& key) {
     if (const auto path = dryRunFile())
         return valueIn(dryRunContents(*path), key);
-    const std::lock_guard guard(preferencesLock());
-    Preferences& preferences = Services::current().preferences;
-    preferences.synchronize();
-    return preferences.copyValue(key);
+    const std::lock_guard guard(m_preferencesLock);
+    m_preferences.synchronize();
+    return m_preferences.copyValue(key);
 }
 
 QList<DockTile> DockStore::currentTiles() {
@@ -145,11 +139,11 @@ void DockStore::write(const QList<DockTile>& tiles) {
     PropertyList::Array apps;
     for (const DockTile& tile : tiles)
         apps.append(PropertyList{tile.raw});
-    DockStore::apply({{appsKey, PropertyList{apps}}}, layoutSignature(tiles));
+    apply({{appsKey, PropertyList{apps}}}, layoutSignature(tiles));
 }
 
 void DockStore::apply(const DockChanges& changes, const QStringList& signature) {
-    const auto holds = [&signature] { return layoutSignature(currentTiles()) == signature; };
+    const auto holds = [this, &signature] { return layoutSignature(currentTiles()) == signature; };
     set(changes);
     if (!holds())
         throw DockError(DockError::Kind::verifyFailed);
@@ -171,11 +165,10 @@ void DockStore::set(const DockChanges& changes) {
         setDryRun(changes, *path);
         return;
     }
-    const std::lock_guard guard(preferencesLock());
-    Preferences& preferences = Services::current().preferences;
+    const std::lock_guard guard(m_preferencesLock);
     for (auto change = changes.cbegin(); change != changes.cend(); ++change)
-        preferences.setValue(change.key(), change.value());
-    if (!preferences.synchronize())
+        m_preferences.setValue(change.key(), change.value());
+    if (!m_preferences.synchronize())
         throw DockError(DockError::Kind::writeFailed);
 }
 
@@ -183,25 +176,24 @@ void DockStore::restore(const DockState& state) {
     DockChanges changes;
     for (const QString& key : snapshotKeys())
         changes.insert(key, valueIn(state, key));
-    DockStore::apply(changes, layoutSignature(tilesFrom(valueIn(state, appsKey))));
+    apply(changes, layoutSignature(tilesFrom(valueIn(state, appsKey))));
 }
 
 void DockStore::restartDock() {
     if (!isDryRun())
-        Services::current().processes.run(u"/usr/bin/killall"_s, {u"Dock"_s});
+        m_processes.run(u"/usr/bin/killall"_s, {u"Dock"_s});
 }
 
 bool DockStore::isDockRunning() {
-    return Services::current().processes.run(u"/usr/bin/pgrep"_s, {u"-x"_s, u"Dock"_s}) == 0;
+    return m_processes.run(u"/usr/bin/pgrep"_s, {u"-x"_s, u"Dock"_s}) == 0;
 }
 
 void DockStore::waitForDock() {
-    Clock& clock = Services::current().clock;
-    const auto deadline = clock.elapsed() + restartLimit;
-    clock.sleep(goingDown);
-    while (clock.elapsed() < deadline && !isDockRunning())
-        clock.sleep(betweenProbes);
-    clock.sleep(settling);
+    const auto deadline = m_clock.elapsed() + restartLimit;
+    m_clock.sleep(goingDown);
+    while (m_clock.elapsed() < deadline && !isDockRunning())
+        m_clock.sleep(betweenProbes);
+    m_clock.sleep(settling);
 }
 
 } // namespace DockCore

@@ -3,12 +3,16 @@
 #include "DockCore/AppCatalog.h"
 #include "DockCore/DefaultProfiles.h"
 #include "DockCore/Error.h"
+#include "DockCore/Ports/Clock.h"
 #include "DockCore/Storage/JSONFile.h"
 #include "DockCore/Storage/Paths.h"
 
 #include <QJsonArray>
 
 #include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace DockCore {
 
@@ -46,11 +50,13 @@ QList<Profile>::const_iterator find(const QList<Profile>& profiles, const std::o
 }
 } // namespace
 
-ProfileStore::ProfileStore()
-    : profiles(profilesIn(Paths::profiles()))
-    , settings(settingsIn(Paths::settings())) {
+ProfileStore::ProfileStore(const Paths& paths, AppCatalog& catalog, Metadata& metadata, Clock& clock)
+    : profiles(profilesIn(paths.profiles()))
+    , settings(settingsIn(paths.settings()))
+    , m_profilesFile(paths.profiles())
+    , m_settingsFile(paths.settings()) {
     if (profiles.isEmpty()) {
-        profiles = DefaultProfiles::make(AppCatalog::shared());
+        profiles = DefaultProfiles::make(catalog, metadata, clock.now());
         saveProfiles();
     }
     if (find(profiles, settings.activeProfileID) != profiles.cend())
@@ -66,15 +72,59 @@ const Profile& ProfileStore::active() const {
     return named == profiles.cend() ? profiles.constFirst() : *named;
 }
 
+bool ProfileStore::update(const Profile& profile) {
+    const auto stored = std::ranges::find(profiles, profile.id, &Profile::id);
+    if (stored == profiles.end() || *stored == profile)
+        return false;
+    *stored = profile;
+    saveProfiles();
+    return true;
+}
+
+Profile ProfileStore::add() {
+    const auto isTaken = [this](const QString& name) {
+        return std::ranges::find(std::as_const(profiles), name, &Profile::name) != profiles.cend();
+    };
+    QString name = u"New Profile"_s;
+    for (int number = 2; isTaken(name); ++number)
+        name = u"New Profile %1"_s.arg(number);
+    profiles.append(Profile::make(name, u"sparkles"_s, {}, {}, 8, UsageWindow::week, true));
+    saveProfiles();
+    return profiles.constLast();
+}
+
+Profile ProfileStore::duplicate(const Profile& profile) {
+    Profile copy = profile;
+    copy.id = QUuid::createUuid();
+    copy.name += u" Copy"_s;
+    profiles.append(copy);
+    saveProfiles();
+    return copy;
+}
+
+bool ProfileStore::remove(QUuid profile) {
+    QList<Profile> remaining = profiles;
+    remaining.removeIf([&profile](const Profile& candidate) { return candidate.id == profile; });
+    if (profiles.size() < 2 || remaining.isEmpty())
+        return false;
+    profiles = remaining;
+    if (settings.activeProfileID == profile) {
+        settings.activeProfileID = profiles.constFirst().id;
+        saveSettings();
+    }
+    saveProfiles();
+    return true;
+}
+
 void ProfileStore::saveProfiles() const {
     QJsonArray array;
     for (const Profile& profile : profiles)
         array.append(profile.toJson());
-    saveIgnoringErrors(array, Paths::profiles());
+    saveIgnoringErrors(array, m_profilesFile);
 }
 
 void ProfileStore::saveSettings() const {
-    saveIgnoringErrors(settings.toJson(), Paths::settings());
+    saveIgnoringErrors(settings.toJson(), m_settingsFile);
 }
 
 } // namespace DockCore

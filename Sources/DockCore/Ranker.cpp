@@ -49,10 +49,10 @@ double Ranker::spotlightWeight(int trackedDays, UsageWindow window) {
     return untracked >= 0 ? untracked * mostPointsASpotlightDay : 0;
 }
 
-QList<AppScore> Ranker::rank(const UsageStore& usage, UsageWindow window, AppCatalog& catalog, Spotlight spotlight,
+QList<AppScore> Ranker::rank(const UsageStore& usage, UsageWindow window, AppCatalog& catalog, Metadata* spotlight,
                              const QDateTime& now) {
     const QHash<QString, UsageTotals> totals = usage.totals(window, now);
-    const double weight = spotlight == Spotlight::include ? spotlightWeight(usage.trackedDays(window, now), window) : 0;
+    const double weight = spotlight != nullptr ? spotlightWeight(usage.trackedDays(window, now), window) : 0;
 
     std::vector<Entry> entries;
     const QMap<QString, AppInfo> apps = candidates(totals, catalog, weight);
@@ -62,7 +62,7 @@ QList<AppScore> Ranker::rank(const UsageStore& usage, UsageWindow window, AppCat
         const AppInfo& app = candidate.value();
         const UsageTotals total = totals.value(candidate.key());
         const SpotlightUsage::Result opened =
-            weight > 0 ? SpotlightUsage::lookup(app.path, window, now) : SpotlightUsage::Result();
+            weight > 0 ? SpotlightUsage::lookup(*spotlight, app.path, window, now) : SpotlightUsage::Result();
         const double score = total.seconds / 60 * pointsAMinute +
                              pointsAnActivation * static_cast<double>(total.activations) +
                              weight * static_cast<double>(opened.daysUsed);

@@ -11,6 +11,7 @@
 namespace DockCore {
 
 class AppCatalog;
+class Metadata;
 class UsageStore;
 
 /// One ranked application and what its score is made of. A plain value.
@@ -30,14 +31,13 @@ struct AppScore {
 /// Orders applications by use, best first. The same input gives the same output; the caller chooses the thread.
 namespace Ranker {
 
-enum class Spotlight { exclude, include };
-
 /// Points for one day on which the operating system saw an application opened: 10 with no tracked day in the window,
 /// falling to 0 when every day is tracked.
 double spotlightWeight(int trackedDays, UsageWindow window);
 
 /// Applications with a score above 0: a point a minute in front, two an activation, the Spotlight weight a day opened.
-QList<AppScore> rank(const UsageStore& usage, UsageWindow window, AppCatalog& catalog, Spotlight spotlight,
+/// `spotlight` is the operating system's record; null leaves it out.
+QList<AppScore> rank(const UsageStore& usage, UsageWindow window, AppCatalog& catalog, Metadata* spotlight,
                      const QDateTime& now);
 
 } // namespace Ranker

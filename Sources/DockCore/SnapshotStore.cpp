@@ -3,7 +3,6 @@
 #include "DockCore/DockStore.h"
 #include "DockCore/Error.h"
 #include "DockCore/Ports/Clock.h"
-#include "DockCore/Services.h"
 #include "DockCore/Storage/AtomicFile.h"
 #include "DockCore/Storage/JSONFile.h"
 
@@ -76,8 +75,10 @@ std::optional<Snapshot> Snapshot::fromJson(const QJsonValue& json) {
     return Snapshot{id.toString(), *date, reason.toString(), *bundleIDs, *signature, isOriginal.toBool()};
 }
 
-SnapshotStore::SnapshotStore(const QString& folder)
+SnapshotStore::SnapshotStore(const QString& folder, DockStore& dock, Clock& clock)
     : m_folder(folder)
+    , m_dock(dock)
+    , m_clock(clock)
     , m_all(readIndex(folder + u"/index.json"_s)) {}
 
 QList<Snapshot> SnapshotStore::all() const {
@@ -93,18 +94,18 @@ std::optional<Snapshot> SnapshotStore::original() const {
 
 Snapshot SnapshotStore::capture(const QString& reason, Mark mark) {
     const std::lock_guard changing(m_changing);
-    Clock& clock = Services::current().clock;
-    const DockState state = DockStore::capture();
+    const DockState state = m_dock.capture();
     const auto apps = state.constFind(u"persistent-apps"_s);
     const QList<DockTile> tiles = apps != state.constEnd() ? tilesFrom(*apps) : QList<DockTile>();
 
-    const QString id = newId(clock.now());
+    const QString id = newId(m_clock.now());
     const QByteArray bytes = PropertyList{state}.serialize(PropertyList::Format::binary);
     if (bytes.isEmpty())
         throw FileError(u"The Dock could not be saved: it holds something that a property list cannot."_s);
     AtomicFile::save(bytes, statePath(id), AtomicFile::Access::ownerOnly);
 
-    const Snapshot snapshot{id, clock.now(), reason, bundleIDs(tiles), layoutSignature(tiles), mark == Mark::original};
+    const Snapshot snapshot{
+        id, m_clock.now(), reason, bundleIDs(tiles), layoutSignature(tiles), mark == Mark::original};
     {
         const std::lock_guard guard(m_lock);
         m_all.prepend(snapshot);
@@ -127,7 +128,7 @@ std::optional<Snapshot> SnapshotStore::previous(const QList<DockTile>& current) 
 void SnapshotStore::restore(const Snapshot& snapshot) {
     const DockState saved = state(snapshot);
     capture(u"Before restoring"_s, Mark::ordinary);
-    DockStore::restore(saved);
+    m_dock.restore(saved);
 }
 
 PropertyList::Dictionary SnapshotStore::state(const Snapshot& snapshot) const {

@@ -13,6 +13,9 @@
 
 namespace DockCore {
 
+class Clock;
+class DockStore;
+
 /// The index record of one saved Dock. A plain value.
 struct Snapshot {
     QString id;
@@ -36,7 +39,7 @@ class SnapshotStore {
 public:
     enum class Mark { ordinary, original };
 
-    explicit SnapshotStore(const QString& folder);
+    SnapshotStore(const QString& folder, DockStore& dock, Clock& clock);
 
     /// Newest first.
     QList<Snapshot> all() const;
@@ -60,6 +63,8 @@ private:
     void saveIndex();
 
     QString m_folder;
+    DockStore& m_dock;
+    Clock& m_clock;
     /// Held for a whole change, from the first file to the last.
     std::mutex m_changing;
     mutable std::mutex m_lock;

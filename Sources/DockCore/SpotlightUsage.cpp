@@ -1,7 +1,6 @@
 #include "DockCore/SpotlightUsage.h"
 
 #include "DockCore/Ports/Metadata.h"
-#include "DockCore/Services.h"
 
 #include <QSet>
 
@@ -9,8 +8,9 @@
 
 namespace DockCore {
 
-SpotlightUsage::Result SpotlightUsage::lookup(const QString& path, UsageWindow window, const QDateTime& now) {
-    const std::optional<Metadata::Item> item = Services::current().metadata.item(path);
+SpotlightUsage::Result SpotlightUsage::lookup(Metadata& metadata, const QString& path, UsageWindow window,
+                                              const QDateTime& now) {
+    const std::optional<Metadata::Item> item = metadata.item(path);
     if (!item)
         return {};
     // The same time of day by the local calendar, so that a span over a clock change is an hour shorter or longer.

@@ -9,6 +9,8 @@
 
 namespace DockCore {
 
+class Metadata;
+
 /// What the operating system itself knows of an application's use. Keeps nothing; any thread may call it.
 namespace SpotlightUsage {
 
@@ -20,7 +22,7 @@ struct Result {
 };
 
 /// Never fails: what is not known is 0 days and no date.
-Result lookup(const QString& path, UsageWindow window, const QDateTime& now);
+Result lookup(Metadata& metadata, const QString& path, UsageWindow window, const QDateTime& now);
 
 } // namespace SpotlightUsage
 } // namespace DockCore

@@ -1,8 +1,6 @@
 #include "DockCore/UsageStore.h"
 
 #include "DockCore/Error.h"
-#include "DockCore/Ports/Clock.h"
-#include "DockCore/Services.h"
 #include "DockCore/Storage/JSONFile.h"
 #include "DockCore/Storage/JSONText.h"
 
@@ -251,10 +249,10 @@ QString UsageStore::dayKey(const QDateTime& moment) {
     return keyOf(moment.toLocalTime().date());
 }
 
-void UsageStore::save() {
+void UsageStore::save(const QDateTime& now) {
     if (!m_isDirty)
         return;
-    const QDate oldest = Services::current().clock.now().toLocalTime().date().addDays(-daysKept);
+    const QDate oldest = now.toLocalTime().date().addDays(-daysKept);
     if (!oldest.isValid())
         qFatal("The clock shows a date that no calendar has.");
     const auto firstKept = std::as_const(m_file.days).lowerBound(keyOf(oldest));

@@ -68,9 +68,9 @@ public:
     static QStringList keys(int days, const QDateTime& now);
     static QString dayKey(const QDateTime& moment);
 
-    /// Drops days more than 90 days old and writes the file, if anything changed. A failed write is ignored and not
-    /// tried again until the next change.
-    void save();
+    /// Drops days more than 90 days before `now` and writes the file, if anything changed. A failed write is ignored
+    /// and not tried again until the next change.
+    void save(const QDateTime& now);
     /// Forgets everything and deletes the file.
     void erase();
 

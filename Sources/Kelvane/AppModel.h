@@ -1,11 +1,13 @@
 #pragma once
 
-#include "DockCore/AppInfo.h"
+#include "DockCore/AppCatalog.h"
 #include "DockCore/DockDiff.h"
-#include "DockCore/DockTile.h"
+#include "DockCore/DockStore.h"
 #include "DockCore/ProfileStore.h"
 #include "DockCore/Ranker.h"
+#include "DockCore/Services.h"
 #include "DockCore/SnapshotStore.h"
+#include "DockCore/Storage/Paths.h"
 #include "DockCore/UsageStore.h"
 
 #include <QMap>
@@ -39,7 +41,7 @@ struct Outcome {
     bool isError = false;
     /// The Dock was written.
     bool changed = false;
-    /// Another change was running, so nothing was done.
+    /// Nothing was done, because another change was running or a later refresh overtook the one before it.
     bool refused = false;
     bool operator==(const Outcome&) const = default;
 };
@@ -49,15 +51,21 @@ enum class Pane { dock, usage, profiles, history, settings };
 
 /// The driver of the application: it owns the stores and all state that menu, window and command line show, and only it
 /// rewrites the Dock. Slow work runs on a thread pool over copies; its results come back to the main thread, where
-/// every function here is called. There is one a process, made and owned by `main`.
+/// every function here is called. `main` owns the only instance.
 class AppModel : public QObject {
     Q_OBJECT
 
 public:
-    /// Both ports may be null where there is no desktop: nothing is tracked then, and updates wait for nobody.
-    AppModel(Workspace* workspace, LoginItem* loginItem);
-    /// Waits for running background work and records what a change of the Dock did; nobody is answered any more.
+    /// `workspace` and `loginItem` are null where there is no desktop: nothing is tracked then, and automatic updates
+    /// do not depend on input. All ports outlive the model.
+    AppModel(const DockCore::Services& services, const DockCore::Paths& paths, Workspace* workspace,
+             LoginItem* loginItem);
+    /// Waits for running background work and records what a change of the Dock did. No signal or reply follows.
     ~AppModel() override;
+
+    const DockCore::Services& services() const { return m_services; }
+    const DockCore::Paths& paths() const { return m_paths; }
+    DockCore::AppCatalog& catalog() const { return m_catalog; }
 
     // State, with a signal for each change.
     const QList<DockCore::DockTile>& current() const { return m_current; }
@@ -84,7 +92,6 @@ public:
     bool isWorking() const { return m_isWorking; }
     bool launchAtLogin() const { return m_launchAtLogin; }
     const DockCore::UsageStore& usage() const { return m_usage; }
-    DockCore::SnapshotStore& snapshotStore() { return m_snapshotStore; }
     UsageTracker& tracker();
 
     /// The profile that the settings name, else the first.
@@ -97,16 +104,23 @@ public:
     void start();
     /// Saves the Dock as the original if none was saved yet; a failure is left for the next start.
     void captureOriginal();
-    /// Reads the Dock, ranks in the background, then proposes. `then` runs afterwards on the main thread, unless a
-    /// later refresh has started meanwhile: then this one publishes nothing and `then` is dropped.
-    void refresh(std::function<void()> then = {});
+    /// Reads the Dock, ranks in the background, then proposes. `then` runs afterwards on the main thread. A later
+    /// refresh overtakes this one: then it publishes nothing, and `overtaken` runs in place of `then`.
+    void refresh(std::function<void()> then = {}, std::function<void()> overtaken = {});
+    /// A refresh has started and not yet published.
+    bool isRefreshing() const { return m_isRefreshing; }
     void recomputeProposal();
     QList<DockCore::DockTile> plan(const DockCore::Profile& profile) const;
 
     enum class Apply { no, yes };
+    /// Which outcomes show a toast.
     enum class Notify { failuresOnly, always };
     /// Called once, on the main thread, when the operation is over; at once when there is nothing to wait for.
     using Reply = std::function<void(const Outcome&)>;
+    /// Refreshes, then brings the Dock in line with the active profile; refused where a later refresh overtakes it.
+    void refreshAndApply(Notify notify, Reply reply = {});
+    /// Refreshes, then ends a pause of automatic updates; refused where a later refresh overtakes it.
+    void refreshAndResume(Reply reply = {});
     /// Makes a profile the active one; with `Apply::yes` refreshes and then brings the Dock in line.
     void activate(const QUuid& profile, Apply apply);
     /// Brings the Dock in line with the active profile; nothing while another change runs.
@@ -119,14 +133,14 @@ public:
     void update(const DockCore::Profile& profile);
     DockCore::Profile addProfile();
     DockCore::Profile duplicate(const DockCore::Profile& profile);
-    /// The last profile stays. By value: the identifier may be one of the list that this changes.
+    /// The last profile stays.
     void removeProfile(QUuid profile);
 
     void setTracking(bool on);
     void setLaunchAtLogin(bool on);
     void setAutoUpdate(DockCore::AutoUpdate interval);
     void resumeAuto(Reply reply = {});
-    /// One look of the schedule: applies silently if an update is due and the user has paused.
+    /// One check of the schedule: applies silently if an update is due and the user is idle.
     void autoCheck();
     /// Ends the first run; with `Apply::yes` applies the active profile at once.
     void finishOnboarding(Apply apply);
@@ -149,23 +163,41 @@ Q_SIGNALS:
     void refreshed();
 
 private:
-    /// `work` runs in the background and may throw an Error; `done` runs afterwards on the main thread when it did not,
-    /// records what was done and gives the text to answer with.
-    void runDockChange(std::function<void()> work, std::function<QString()> done, Notify notify, Reply reply);
+    /// A change of the Dock: an apply when `snapshot` is absent, else a restore.
+    struct DockChange {
+        std::optional<DockCore::Snapshot> snapshot;
+        /// What an apply writes, and the name of its profile.
+        QList<DockCore::DockTile> tiles;
+        QString profile;
+        Notify notify = Notify::always;
+        Reply reply;
+    };
+    /// Runs a change in the background, then records it, shows its outcome, refreshes and replies, on the main thread.
+    void run(const DockChange& change);
+    /// Background; throws Error.
+    void perform(const DockChange& change);
+    /// Records a change that succeeded; gives the sentence for the user.
+    QString record(const DockChange& change);
+    void conclude(const Outcome& outcome, Notify notify, const Reply& reply);
+    bool refuseWhileWorking(const Reply& reply);
+
     void readCurrent();
-    /// The user may have switched it elsewhere.
     void readLoginItem();
     void detectManualChange();
     void recordApplied(const QStringList& signature);
+    /// Time since the Dock was last applied or confirmed; nothing when that never happened.
+    std::optional<std::chrono::duration<double>> sinceApplied() const;
     void show(const Toast& toast);
-    void conclude(const Outcome& outcome, Notify notify, const Reply& reply);
+    void reloadSnapshots();
     void saveSettings();
-    void saveProfiles();
-    void startSchedule();
-    bool isDue() const;
 
+    DockCore::Services m_services;
+    DockCore::Paths m_paths;
     Workspace* m_workspace;
     LoginItem* m_loginItem;
+    /// Its caches are not part of the model's state, so a const model may ask it.
+    mutable DockCore::AppCatalog m_catalog;
+    DockCore::DockStore m_dock;
     DockCore::UsageStore m_usage;
     DockCore::ProfileStore m_store;
     DockCore::SnapshotStore m_snapshotStore;
@@ -184,12 +216,15 @@ private:
     bool m_launchAtLogin = false;
 
     QTimer m_autoTimer = QTimer(this);
-    /// When the Dock was last applied or confirmed by this process, on the clock that nobody sets.
+    /// When this process last applied or confirmed the Dock, on the monotonic clock.
     std::optional<std::chrono::nanoseconds> m_appliedElapsed;
     std::atomic<qint64> m_refreshGeneration = 0;
-    /// How to record what the last change of the Dock did, from its end in the background until that has happened.
-    std::function<QString()> m_unrecorded;
-    /// Set when the model goes, so that a background scan under way is not finished for nobody.
+    bool m_isRefreshing = false;
+    /// What to run when another refresh starts before the running one has published.
+    std::function<void()> m_overtaken;
+    /// The last change of the Dock, from its end in the background until it is recorded.
+    std::optional<DockChange> m_unrecorded;
+    /// Set by the destructor, so that a background scan ends early.
     std::atomic<bool> m_isClosing = false;
     QThreadPool m_pool;
 };

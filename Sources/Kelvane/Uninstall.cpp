@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace Kelvane::Uninstall {
 
-int run(LoginItem& loginItem, QTextStream& output) {
+int run(LoginItem& loginItem, const DockCore::Paths& paths, QTextStream& output) {
     int status = 0;
     if (!loginItem.isEnabled()) {
         output << u"Kelvane does not open at login.\n"_s;
@@ -20,7 +20,7 @@ int run(LoginItem& loginItem, QTextStream& output) {
         output << u"Kelvane no longer opens at login.\n"_s;
     }
     output << u"Left as they are: the Dock, and your usage, profiles, settings and saved Docks in\n    "_s
-           << DockCore::Paths::support() << u"\nDelete that folder to remove them too.\n"_s;
+           << paths.support() << u"\nDelete that folder to remove them too.\n"_s;
     return status;
 }
 

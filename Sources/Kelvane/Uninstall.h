@@ -2,6 +2,10 @@
 
 class QTextStream;
 
+namespace DockCore {
+class Paths;
+}
+
 namespace Kelvane {
 
 class LoginItem;
@@ -11,7 +15,7 @@ namespace Uninstall {
 
 /// Removes the login item and writes to `output` what was done and what is left for the person to keep or delete.
 /// Gives the exit status for the process: 1 when the system refused.
-int run(LoginItem& loginItem, QTextStream& output);
+int run(LoginItem& loginItem, const DockCore::Paths& paths, QTextStream& output);
 
 } // namespace Uninstall
 

@@ -1,7 +1,6 @@
 #include "Kelvane/UsageTracker.h"
 
 #include "DockCore/Ports/Clock.h"
-#include "DockCore/Services.h"
 #include "DockCore/UsageStore.h"
 
 namespace Kelvane {
@@ -11,22 +10,19 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto tickInterval = 10s;
-/// A tick this late means that the machine slept or the process stood still: nobody knows who was in front.
+/// A later tick means that the machine slept or the process was stopped, so the front application is unknown.
 constexpr auto elapsedLimit = 30s;
-/// Whoever touched nothing for this long has left.
+/// Time without input after which the user counts as away.
 constexpr auto idleLimit = 300s;
 constexpr qint64 ticksPerSave = 6;
 
-DockCore::Clock& clock() {
-    return DockCore::Services::current().clock;
-}
-
 } // namespace
 
-UsageTracker::UsageTracker(DockCore::UsageStore& usage, Workspace* workspace)
+UsageTracker::UsageTracker(DockCore::UsageStore& usage, DockCore::Clock& clock, Workspace* workspace)
     : m_usage(usage)
+    , m_clock(clock)
     , m_workspace(workspace)
-    , m_lastTick(clock().elapsed()) {
+    , m_lastTick(m_clock.elapsed()) {
     m_timer.setInterval(tickInterval);
     // A coarse timer fires within half a second and together with the other coarse ones, so that an idle machine wakes
     // once for all of them.
@@ -40,21 +36,21 @@ void UsageTracker::start() {
         connect(m_workspace, &Workspace::paused, this, &UsageTracker::pause);
         connect(m_workspace, &Workspace::resumed, this, &UsageTracker::resume);
     }
-    m_lastTick = clock().elapsed();
+    m_lastTick = m_clock.elapsed();
     m_timer.start();
 }
 
 void UsageTracker::setEnabled(bool enabled) {
     // Between two ticks the time off would otherwise be credited by the next one.
     if (enabled && !m_enabled)
-        m_lastTick = clock().elapsed();
+        m_lastTick = m_clock.elapsed();
     m_enabled = enabled;
 }
 
 void UsageTracker::sample() {
     // Asked before anything else, because the answer may bring a pause with it.
     const auto idle = m_workspace ? m_workspace->sinceLastInput() : std::nullopt;
-    const auto now = clock().elapsed();
+    const auto now = m_clock.elapsed();
     const auto elapsed = now - m_lastTick;
     m_lastTick = now;
     if (!m_enabled || m_screenLocked || elapsed >= elapsedLimit || !idle || *idle >= idleLimit)
@@ -62,19 +58,19 @@ void UsageTracker::sample() {
     const auto front = m_workspace->frontApplication();
     if (!front || !front->isRegular || !front->bundleID)
         return;
-    m_usage.addSeconds(std::chrono::duration<double>(elapsed).count(), *front->bundleID, front->name, clock().now());
+    m_usage.addSeconds(std::chrono::duration<double>(elapsed).count(), *front->bundleID, front->name, m_clock.now());
     if (++m_ticksSinceSave >= ticksPerSave)
         flush();
 }
 
 void UsageTracker::flush() {
     m_ticksSinceSave = 0;
-    m_usage.save();
+    m_usage.save(m_clock.now());
 }
 
 void UsageTracker::applicationActivated(const RunningApplication& application) {
     if (m_enabled && application.isRegular && application.bundleID)
-        m_usage.addActivation(*application.bundleID, application.name, clock().now());
+        m_usage.addActivation(*application.bundleID, application.name, m_clock.now());
 }
 
 void UsageTracker::pause() {
@@ -83,7 +79,7 @@ void UsageTracker::pause() {
 
 void UsageTracker::resume() {
     m_screenLocked = false;
-    m_lastTick = clock().elapsed();
+    m_lastTick = m_clock.elapsed();
 }
 
 } // namespace Kelvane

@@ -8,8 +8,9 @@
 #include <chrono>
 
 namespace DockCore {
+class Clock;
 class UsageStore;
-}
+} // namespace DockCore
 
 namespace Kelvane {
 
@@ -19,8 +20,8 @@ class UsageTracker : public QObject {
     Q_OBJECT
 
 public:
-    /// Samples go to `usage`; `workspace` may be null, then nothing is ever credited. Both outlive the tracker.
-    UsageTracker(DockCore::UsageStore& usage, Workspace* workspace);
+    /// Samples go to `usage`; `workspace` may be null, then nothing is ever credited. All outlive the tracker.
+    UsageTracker(DockCore::UsageStore& usage, DockCore::Clock& clock, Workspace* workspace);
 
     /// Begins to listen and to sample every ten seconds. Called once; there is no stop.
     void start();
@@ -38,6 +39,7 @@ private:
     void resume();
 
     DockCore::UsageStore& m_usage;
+    DockCore::Clock& m_clock;
     Workspace* m_workspace;
     QTimer m_timer = QTimer(this);
     /// The moment of the last tick or return, on the clock that nobody sets.

@@ -1,7 +1,6 @@
 // The resident application: one process a support folder, with a status item, a window when asked for, and the commands
 // of the command line.
 
-#include "DockCore/Services.h"
 #include "DockCore/Storage/Paths.h"
 #include "Kelvane/AppModel.h"
 #include "Kelvane/Commands/CommandClient.h"
@@ -94,14 +93,13 @@ int main(int argc, char** argv) {
         return runSelfTest();
 
     SystemServices system;
-    const DockCore::ServicesScope scope(system.platform());
+    const DockCore::Paths paths(system.services().folders);
     if (arguments.contains(u"--uninstall")) {
         QTextStream output(stdout);
-        return Uninstall::run(SystemSession().loginItem(), output);
+        return Uninstall::run(SystemSession(system.services()).loginItem(), paths, output);
     }
-    const QString support = DockCore::Paths::support();
-    const QString socket = commandSocketPath(support);
-    InstanceLock lock(support);
+    const QString socket = commandSocketPath(paths.support());
+    InstanceLock lock(paths.support());
     switch (acquire(lock, socket)) {
     case LockResult::acquired:
         break;
@@ -114,8 +112,8 @@ int main(int argc, char** argv) {
 
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::received, &application, &QCoreApplication::quit);
-    SystemSession desktop;
-    AppModel model(&desktop.workspace(), &desktop.loginItem());
+    SystemSession desktop(system.services());
+    AppModel model(system.services(), paths, &desktop.workspace(), &desktop.loginItem());
     CommandRunner runner(model);
     AppDelegate delegate(model, desktop.desktop(), desktop.images(), WindowModule::makeWindow);
     const CommandServer server(runner, socket);

@@ -1,7 +1,6 @@
 // The command line: arguments in, one operation of the model, text or JSON out. It asks the application that runs, and
 // does the work itself when none does.
 
-#include "DockCore/Services.h"
 #include "DockCore/Storage/Paths.h"
 #include "Kelvane/AppModel.h"
 #include "Kelvane/Commands/CommandClient.h"
@@ -48,15 +47,16 @@ Answer failed(const QString& sentence) {
     return {.status = Answer::failed, .error = sentence};
 }
 
-Answer runHere(QCoreApplication& application, const Command& command, Colour colour) {
-    AppModel model(nullptr, nullptr);
+Answer runHere(const DockCore::Services& services, const DockCore::Paths& paths, const Command& command,
+               Colour colour) {
+    AppModel model(services, paths, nullptr, nullptr);
     CommandRunner runner(model);
     Answer answer;
     bool isDone = false;
     runner.run(command, colour, [&](const Answer& result) {
         answer = result;
         isDone = true;
-        application.quit();
+        QCoreApplication::quit();
     });
     if (!isDone)
         QCoreApplication::exec();
@@ -64,11 +64,11 @@ Answer runHere(QCoreApplication& application, const Command& command, Colour col
 }
 
 /// Asks the running application, else takes its place, whichever is possible first.
-Answer carryOut(QCoreApplication& application, const Command& command, Colour colour) {
-    const QString support = DockCore::Paths::support();
-    const QString socket = commandSocketPath(support);
+Answer carryOut(const DockCore::Services& services, const Command& command, Colour colour) {
+    const DockCore::Paths paths(services.folders);
+    const QString socket = commandSocketPath(paths.support());
     const CommandRequest request{.arguments = QCoreApplication::arguments().mid(1), .colour = colour};
-    InstanceLock lock(support);
+    InstanceLock lock(paths.support());
     const QDeadlineTimer deadline(lockTimeout);
     while (true) {
         const auto reply = CommandClient::ask(socket, request, Terminal::userID(), answerTimeout);
@@ -80,7 +80,7 @@ Answer carryOut(QCoreApplication& application, const Command& command, Colour co
         if (silence == CommandClient::Silence::lost && !isRepeatable(command))
             return failed(u"Kelvane ended before it answered. See “kelvanectl status” for what became of the Dock."_s);
         if (lock.tryAcquire() != InstanceLock::State::busy)
-            return runHere(application, command, colour);
+            return runHere(services, paths, command, colour);
         if (deadline.hasExpired())
             return failed(u"Another command has been changing the Dock for too long. Try again later."_s);
         QThread::msleep(std::chrono::milliseconds(lockRetryInterval).count());
@@ -90,7 +90,7 @@ Answer carryOut(QCoreApplication& application, const Command& command, Colour co
 } // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"kelvanectl"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(KELVANE_VERSION));
     const QStringList arguments = QCoreApplication::arguments().mid(1);
@@ -104,7 +104,6 @@ int main(int argc, char** argv) {
         return finish({.status = Answer::mistaken, .error = mistake->sentence});
 
     SystemServices system;
-    const DockCore::ServicesScope scope(system.platform());
     const Colour colour = Terminal::showsColours() ? Colour::terminal : Colour::none;
-    return finish(carryOut(application, std::get<Command>(command), colour));
+    return finish(carryOut(system.services(), std::get<Command>(command), colour));
 }

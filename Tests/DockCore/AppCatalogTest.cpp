@@ -20,12 +20,9 @@ QStringList names(const QList<AppInfo>& apps) {
     return names;
 }
 
-/// Bundles that take their time: while they are read, another thread asks the catalog for what it knows.
+/// Bundles that query the catalog from another thread while they are read.
 class AskedMeanwhile : public Fakes::Bundles {
 public:
-    explicit AskedMeanwhile(AppCatalog& catalog)
-        : m_catalog(catalog) {}
-
     std::optional<QString> identifier(const QString& path) override {
         ask();
         return Fakes::Bundles::identifier(path);
@@ -35,6 +32,7 @@ public:
         return Fakes::Bundles::path(identifier);
     }
 
+    AppCatalog* catalog = nullptr;
     bool isAsked = false;
     int answers = 0;
     bool isBlocked = false;
@@ -43,13 +41,12 @@ private:
     void ask() {
         if (!isAsked || isBlocked)
             return;
-        m_questions.push_back(std::async(std::launch::async, [this] { m_catalog.isInstalled(u"com.known"_s); }));
+        m_questions.push_back(std::async(std::launch::async, [this] { catalog->isInstalled(u"com.known"_s); }));
         isBlocked = m_questions.back().wait_for(10s) != std::future_status::ready;
         answers += isBlocked ? 0 : 1;
     }
 
-    AppCatalog& m_catalog;
-    // A question that nobody answers must not keep whoever reads the bundle.
+    // Held here, because the destructor of a future waits, and a blocked query must not block the reader.
     std::vector<std::future<void>> m_questions;
 };
 } // namespace
@@ -66,7 +63,7 @@ private Q_SLOTS:
 
     void searchesSixFoldersInOrder() {
         m_world->folders.homePath = u"/Users/somebody"_s;
-        QCOMPARE(AppCatalog::searchFolders(),
+        QCOMPARE(AppCatalog::searchFolders(m_world->folders),
                  (QStringList{u"/Applications"_s, u"/Applications/Utilities"_s, u"/System/Applications"_s,
                               u"/System/Applications/Utilities"_s, u"/Applications/Setapp"_s,
                               u"/Users/somebody/Applications"_s}));
@@ -86,8 +83,8 @@ private Q_SLOTS:
     void theCopyInTheEarlierFolderWins_data() {
         QTest::addColumn<QString>("earlier");
         QTest::addColumn<QString>("later");
-        const Fakes::World world;
-        const QStringList folders = AppCatalog::searchFolders();
+        Fakes::World world;
+        const QStringList folders = AppCatalog::searchFolders(world.folders);
         for (qsizetype i = 0; i + 1 < folders.size(); ++i)
             QTest::addRow("%s before %s", qPrintable(folders[i]), qPrintable(folders[i + 1]))
                 << folders[i] << folders[i + 1];
@@ -98,14 +95,14 @@ private Q_SLOTS:
         QFETCH(const QString, later);
         m_world->install(u"com.a"_s, u"A"_s, later);
         const QString path = m_world->install(u"com.a"_s, u"A"_s, earlier);
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QCOMPARE(catalog.installedApps(), (QList<AppInfo>{{u"com.a"_s, u"A"_s, path}}));
     }
 
     void inOneFolderTheFirstListedCopyWins() {
         m_world->install(u"com.a"_s, u"Z"_s);
         m_world->install(u"com.a"_s, u"A"_s);
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QCOMPARE(names(catalog.installedApps()), QStringList{u"Z"_s});
     }
 
@@ -114,7 +111,7 @@ private Q_SLOTS:
         m_world->bundles.add(path, u"com.apple.Chess"_s, u"Chess"_s);
         m_world->folders.listing[u"/Applications"_s] = {u"/Applications/Games"_s};
         m_world->folders.listing[u"/Applications/Games"_s] = {path};
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QVERIFY(catalog.installedApps().isEmpty());
         QCOMPARE(catalog.info(u"com.apple.Chess"_s), (AppInfo{u"com.apple.Chess"_s, u"Chess"_s, path}));
         QVERIFY(catalog.isInstalled(u"com.apple.Chess"_s));
@@ -125,7 +122,7 @@ private Q_SLOTS:
         m_world->install(u"com.apple.dock"_s, u"Dock"_s);
         m_world->install(u"org.kelvane.Kelvane"_s, u"Kelvane"_s);
         m_world->install(u"com.a"_s, u"A"_s);
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QCOMPARE(names(catalog.installedApps()), QStringList{u"A"_s});
         QVERIFY(catalog.info(u"com.apple.finder"_s));
         QVERIFY(catalog.info(u"com.apple.dock"_s));
@@ -135,7 +132,7 @@ private Q_SLOTS:
         m_world->install(u"com.a"_s, u"A"_s, u"/Applications"_s);
         m_world->install(u"com.b"_s, u"B"_s, u"/Users/x/Applications"_s);
         QVERIFY(!m_world->folders.listing.contains(u"/Applications/Setapp"_s));
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QCOMPARE(names(catalog.installedApps()), (QStringList{u"A"_s, u"B"_s}));
     }
 
@@ -159,7 +156,7 @@ private Q_SLOTS:
         const QString path = u"/Applications/"_s + entry;
         m_world->bundles.add(path, u"com.a"_s, u"A"_s);
         m_world->folders.listing[u"/Applications"_s] = {path};
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QCOMPARE(catalog.installedApps().size(), listed ? 1 : 0);
         QCOMPARE(m_world->bundles.reads.value(path), listed ? 1 : 0);
     }
@@ -168,7 +165,7 @@ private Q_SLOTS:
         m_world->bundles.add(u"/Applications/A.app"_s, std::nullopt, u"A"_s);
         m_world->folders.listing[u"/Applications"_s] = {u"/Applications/A.app"_s, u"/Applications/Gone.app"_s};
         m_world->install(u"com.b"_s, u"B"_s);
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QCOMPARE(names(catalog.installedApps()), QStringList{u"B"_s});
     }
 
@@ -203,13 +200,13 @@ private Q_SLOTS:
             m_world->bundles.add(path, u"com.%1"_s.arg(number++), name);
             m_world->folders.listing[u"/Applications"_s].append(path);
         }
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QCOMPARE(names(catalog.installedApps()), sorted);
     }
 
     void scansOnceUntilAskedAgain() {
         const QString path = m_world->install(u"com.a"_s, u"A"_s);
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         catalog.installedApps();
         catalog.installedApps();
         QCOMPARE(m_world->bundles.reads.value(path), 1);
@@ -222,7 +219,7 @@ private Q_SLOTS:
     }
 
     void anEmptyScanIsKeptToo() {
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QVERIFY(catalog.installedApps().isEmpty());
         m_world->install(u"com.a"_s, u"A"_s);
         QVERIFY(catalog.installedApps().isEmpty());
@@ -231,7 +228,7 @@ private Q_SLOTS:
     void afterAScanNoScannedApplicationIsLookedUp() {
         for (int i = 0; i < 20; ++i)
             m_world->install(u"com.%1"_s.arg(i), u"A%1"_s.arg(i));
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         for (const AppInfo& app : catalog.installedApps())
             QCOMPARE(catalog.info(app.bundleID), app);
         QVERIFY(m_world->bundles.lookups.isEmpty());
@@ -240,7 +237,7 @@ private Q_SLOTS:
     }
 
     void anUnknownIdentifierIsAskedForOnce() {
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QVERIFY(!catalog.info(u"com.nobody"_s));
         QVERIFY(!catalog.info(u"com.nobody"_s));
         QVERIFY(!catalog.isInstalled(u"com.nobody"_s));
@@ -248,7 +245,7 @@ private Q_SLOTS:
     }
 
     void aRememberedMissEndsWithTheScanThatFindsIt() {
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QVERIFY(!catalog.info(u"com.a"_s));
         m_world->install(u"com.a"_s, u"A"_s);
         QVERIFY(!catalog.info(u"com.a"_s));
@@ -259,7 +256,7 @@ private Q_SLOTS:
 
     void aKnownAnswerOutlivesALaterScan() {
         m_world->bundles.add(u"/Elsewhere/A.app"_s, u"com.a"_s, u"A"_s);
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QCOMPARE(catalog.info(u"com.a"_s)->path, u"/Elsewhere/A.app"_s);
         m_world->install(u"com.a"_s, u"A"_s);
         QCOMPARE(catalog.installedApps(AppCatalog::Scan::refresh).first().path, u"/Applications/A.app"_s);
@@ -269,33 +266,24 @@ private Q_SLOTS:
     void identifiersAreComparedCaseAndAll() {
         m_world->install(u"com.Apple.Mail"_s, u"Mail"_s);
         m_world->install(u"com.apple.mail"_s, u"Mail 2"_s);
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QCOMPARE(catalog.installedApps().size(), 2);
         QVERIFY(!catalog.info(u"com.apple.MAIL"_s));
     }
 
-    void theSharedCatalogStartsAnewWithThePlatform() {
-        m_world->install(u"com.a"_s, u"A"_s);
-        QCOMPARE(&AppCatalog::shared(), &AppCatalog::shared());
-        QCOMPARE(AppCatalog::shared().installedApps().size(), 1);
-        const Fakes::World other;
-        QVERIFY(AppCatalog::shared().installedApps().isEmpty());
-    }
-
-    void whoAsksWhileFilesAreReadIsAnsweredAtOnce_data() {
+    void queriesDoNotWaitForFilesBeingRead_data() {
         QTest::addColumn<bool>("scans");
         QTest::newRow("a scan") << true;
         QTest::newRow("a look for one application") << false;
     }
-    void whoAsksWhileFilesAreReadIsAnsweredAtOnce() {
+    void queriesDoNotWaitForFilesBeingRead() {
         QFETCH(const bool, scans);
-        AppCatalog catalog;
-        AskedMeanwhile bundles(catalog);
+        AskedMeanwhile bundles;
         Fakes::Folders folders;
+        AppCatalog catalog(bundles, folders);
+        bundles.catalog = &catalog;
         folders.listing[u"/Applications"_s] = {u"/Applications/A.app"_s};
         bundles.add(u"/Applications/A.app"_s, u"com.a"_s, u"A"_s);
-        const ServicesScope scope(
-            {m_world->preferences, m_world->processes, bundles, folders, m_world->metadata, m_world->clock});
         QVERIFY(!catalog.isInstalled(u"com.known"_s));
         bundles.isAsked = true;
         if (scans)
@@ -309,7 +297,7 @@ private Q_SLOTS:
     void manyThreadsMayAskAtOnce() {
         for (int i = 0; i < 50; ++i)
             m_world->install(u"com.%1"_s.arg(i), u"A%1"_s.arg(i));
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         std::vector<std::thread> threads;
         std::atomic<int> found = 0;
         for (int thread = 0; thread < 4; ++thread) {

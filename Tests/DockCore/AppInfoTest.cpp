@@ -31,7 +31,7 @@ private Q_SLOTS:
         QFETCH(const QString, name);
         Fakes::World world;
         world.bundles.add(u"/Somewhere/File.app"_s, u"com.apple.mail"_s, displayName);
-        QCOMPARE(AppInfo::fromBundle(u"/Somewhere/File.app"_s),
+        QCOMPARE(AppInfo::fromBundle(u"/Somewhere/File.app"_s, world.bundles),
                  (AppInfo{u"com.apple.mail"_s, name, u"/Somewhere/File.app"_s}));
     }
 
@@ -39,9 +39,9 @@ private Q_SLOTS:
         Fakes::World world;
         world.bundles.add(u"/A.app"_s, std::nullopt, u"A"_s);
         world.bundles.add(u"/B.app"_s, u""_s, u"B"_s);
-        QVERIFY(!AppInfo::fromBundle(u"/A.app"_s));
-        QVERIFY(!AppInfo::fromBundle(u"/B.app"_s));
-        QVERIFY(!AppInfo::fromBundle(u"/Missing.app"_s));
+        QVERIFY(!AppInfo::fromBundle(u"/A.app"_s, world.bundles));
+        QVERIFY(!AppInfo::fromBundle(u"/B.app"_s, world.bundles));
+        QVERIFY(!AppInfo::fromBundle(u"/Missing.app"_s, world.bundles));
     }
 
     void fromJson_data() {

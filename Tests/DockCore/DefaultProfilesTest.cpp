@@ -194,9 +194,9 @@ private Q_SLOTS:
     }
 
 private:
-    static QList<Profile> make() {
-        AppCatalog catalog;
-        return DefaultProfiles::make(catalog);
+    QList<Profile> make() const {
+        AppCatalog catalog(m_world->bundles, m_world->folders);
+        return DefaultProfiles::make(catalog, m_world->metadata, m_world->clock.now());
     }
 
     void install(const QString& bundleIDs) {

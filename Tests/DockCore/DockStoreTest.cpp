@@ -29,7 +29,7 @@ using Run = Fakes::Processes::Run;
 using Files::contentOf;
 using Files::put;
 
-namespace DockStore = DockCore::DockStore;
+using DockCore::DockStore;
 
 Q_DECLARE_METATYPE(DockCore::PropertyList)
 
@@ -136,12 +136,12 @@ void DockStoreTest::errorsCarryTheirSentences() {
 }
 
 void DockStoreTest::readsFreshValues() {
-    QVERIFY(DockStore::value(recentsKey) == PropertyList{false});
+    QVERIFY(m_world->dockStore.value(recentsKey) == PropertyList{false});
     const int before = m_world->preferences.synchronizations;
     m_world->preferences.stored[recentsKey] = {true};
-    QVERIFY(DockStore::value(recentsKey) == PropertyList{true});
+    QVERIFY(m_world->dockStore.value(recentsKey) == PropertyList{true});
     QCOMPARE(m_world->preferences.synchronizations, before + 1);
-    QVERIFY(!DockStore::value(u"mod-count"_s));
+    QVERIFY(!m_world->dockStore.value(u"mod-count"_s));
 }
 
 void DockStoreTest::readsTiles_data() {
@@ -161,26 +161,26 @@ void DockStoreTest::readsTiles_data() {
 void DockStoreTest::readsTiles() {
     QFETCH(const PropertyList, value);
     m_world->preferences.stored[appsKey] = value;
-    QTEST(layoutSignature(DockStore::currentTiles()).join(u' '), "signature");
+    QTEST(layoutSignature(m_world->dockStore.currentTiles()).join(u' '), "signature");
     m_world->preferences.stored.remove(appsKey);
-    QVERIFY(DockStore::currentTiles().isEmpty());
+    QVERIFY(m_world->dockStore.currentTiles().isEmpty());
 }
 
 void DockStoreTest::capturesTheKeysThatExist() {
     Dictionary expected = m_world->preferences.stored;
     expected.remove(u"orientation"_s);
-    QVERIFY(DockStore::capture() == expected);
+    QVERIFY(m_world->dockStore.capture() == expected);
     m_world->preferences.stored.remove(recentsKey);
     expected.remove(recentsKey);
-    QVERIFY(DockStore::capture() == expected);
+    QVERIFY(m_world->dockStore.capture() == expected);
     m_world->preferences.stored.clear();
-    QVERIFY(DockStore::capture().isEmpty());
+    QVERIFY(m_world->dockStore.capture().isEmpty());
 }
 
 void DockStoreTest::writesOnlyTheApplications() {
     Dictionary expected = m_world->preferences.stored;
     expected[appsKey] = apps(u"c | a"_s);
-    DockStore::write(tiles(u"c | a"_s));
+    m_world->dockStore.write(tiles(u"c | a"_s));
     QVERIFY(m_world->preferences.stored == expected);
     QCOMPARE(m_world->preferences.saves, 1);
     QCOMPARE(restarts(), 1);
@@ -191,7 +191,7 @@ void DockStoreTest::writesDictionariesUnchanged() {
     list[1].raw.insert(u"unknown"_s, {Array{{1ULL << 63}, {PropertyList::UID{3}}, {0.1}, {QByteArray("\0x", 2)}}});
     const QList<Dictionary> before = {list[2].raw, list[1].raw, list[0].raw};
     std::reverse(list.begin(), list.end());
-    DockStore::write(list);
+    m_world->dockStore.write(list);
     const Array written = *m_world->preferences.stored[appsKey].array();
     QCOMPARE(written.size(), 3);
     for (qsizetype index = 0; index < 3; ++index)
@@ -199,28 +199,28 @@ void DockStoreTest::writesDictionariesUnchanged() {
 }
 
 void DockStoreTest::writesAnEmptyList() {
-    DockStore::write({});
+    m_world->dockStore.write({});
     QVERIFY(m_world->preferences.stored[appsKey] == PropertyList{Array()});
     QCOMPARE(restarts(), 1);
 }
 
 void DockStoreTest::restoresDeletingWhatTheStateLacks() {
-    DockStore::restore({{appsKey, apps(u"c"_s)}, {othersKey, apps(u"/x"_s)}});
+    m_world->dockStore.restore({{appsKey, apps(u"c"_s)}, {othersKey, apps(u"/x"_s)}});
     const Dictionary expected = {{appsKey, apps(u"c"_s)}, {othersKey, apps(u"/x"_s)}, {u"orientation"_s, {u"left"_s}}};
     QVERIFY(m_world->preferences.stored == expected);
     QCOMPARE(restarts(), 1);
-    DockStore::restore({});
+    m_world->dockStore.restore({});
     QVERIFY((m_world->preferences.stored == Dictionary{{u"orientation"_s, {u"left"_s}}}));
 }
 
 void DockStoreTest::restoresAStateWithAMalformedList() {
-    DockStore::restore({{appsKey, {u"none"_s}}});
+    m_world->dockStore.restore({{appsKey, {u"none"_s}}});
     QVERIFY(m_world->preferences.stored[appsKey] == PropertyList{u"none"_s});
     QCOMPARE(restarts(), 1);
 }
 
 void DockStoreTest::setNeitherRestartsNorVerifies() {
-    DockStore::set({{appsKey, PropertyList{u"none"_s}}, {recentsKey, std::nullopt}});
+    m_world->dockStore.set({{appsKey, PropertyList{u"none"_s}}, {recentsKey, std::nullopt}});
     QVERIFY(m_world->preferences.stored[appsKey] == PropertyList{u"none"_s});
     QVERIFY(!m_world->preferences.stored.contains(recentsKey));
     QVERIFY(m_world->processes.runs.isEmpty());
@@ -248,18 +248,22 @@ void DockStoreTest::writesAgainWhileTheDockReverts() {
             m_world->preferences.stored[appsKey] = apps(u"a b _ c"_s);
         return 0;
     };
-    const auto thrown = thrownBy([] { DockStore::write(tiles(u"c b a"_s)); });
+    const auto thrown = thrownBy([this] { m_world->dockStore.write(tiles(u"c b a"_s)); });
     QCOMPARE(thrown, holds ? std::nullopt : std::optional(DockError::Kind::verifyFailed));
     QCOMPARE(this->restarts(), restarts);
     QCOMPARE(m_world->preferences.saves, restarts);
-    QCOMPARE(layoutSignature(DockStore::currentTiles()), layoutSignature(tiles(holds ? u"c b a"_s : u"a b _ c"_s)));
+    QCOMPARE(layoutSignature(m_world->dockStore.currentTiles()),
+             layoutSignature(tiles(holds ? u"c b a"_s : u"a b _ c"_s)));
 }
 
 void DockStoreTest::refusedWriteThrowsAtOnce() {
     m_world->preferences.refusesToSave = true;
     const Dictionary before = m_world->preferences.stored;
-    QCOMPARE(thrownBy([] { DockStore::write(tiles(u"c"_s)); }), DockError::Kind::writeFailed);
-    QCOMPARE(thrownBy([] { DockStore::set({{recentsKey, PropertyList{true}}}); }), DockError::Kind::writeFailed);
+    QCOMPARE(thrownBy([this] { m_world->dockStore.write(tiles(u"c"_s)); }), DockError::Kind::writeFailed);
+    QCOMPARE(thrownBy([this] {
+                 m_world->dockStore.set({{recentsKey, PropertyList{true}}});
+             }),
+             DockError::Kind::writeFailed);
     QVERIFY(m_world->preferences.stored == before);
     QVERIFY(m_world->processes.runs.isEmpty());
 }
@@ -272,7 +276,7 @@ void DockStoreTest::refusedSecondWriteThrows() {
         }
         return 0;
     };
-    QCOMPARE(thrownBy([] { DockStore::write(tiles(u"c"_s)); }), DockError::Kind::writeFailed);
+    QCOMPARE(thrownBy([this] { m_world->dockStore.write(tiles(u"c"_s)); }), DockError::Kind::writeFailed);
     QCOMPARE(restarts(), 1);
 }
 
@@ -285,10 +289,10 @@ void DockStoreTest::aReaderBetweenSettingAndSavingDoesNotSwallowTheRefusal() {
     std::binary_semaphore reads(0);
     std::atomic<bool> isOver = false;
     std::thread reader([&] {
-        DockStore::currentTiles();
+        m_world->dockStore.currentTiles();
         reads.release();
         while (!isOver)
-            DockStore::currentTiles();
+            m_world->dockStore.currentTiles();
     });
     const auto end = qScopeGuard([&] {
         isOver = true;
@@ -296,11 +300,11 @@ void DockStoreTest::aReaderBetweenSettingAndSavingDoesNotSwallowTheRefusal() {
     });
     reads.acquire();
     for (int round = 0; round < 100; ++round)
-        QCOMPARE(thrownBy([] { DockStore::set({{appsKey, apps(u"b"_s)}}); }), DockError::Kind::writeFailed);
+        QCOMPARE(thrownBy([this] { m_world->dockStore.set({{appsKey, apps(u"b"_s)}}); }), DockError::Kind::writeFailed);
 }
 
 void DockStoreTest::mismatchAfterWritingThrowsWithoutARestart() {
-    const auto thrown = thrownBy([] { DockStore::apply({{appsKey, apps(u"a b"_s)}}, {u"b"_s, u"a"_s}); });
+    const auto thrown = thrownBy([this] { m_world->dockStore.apply({{appsKey, apps(u"a b"_s)}}, {u"b"_s, u"a"_s}); });
     QCOMPARE(thrown, DockError::Kind::verifyFailed);
     QVERIFY(m_world->processes.runs.isEmpty());
 }
@@ -309,7 +313,7 @@ void DockStoreTest::restartsWhetherOrNotKillallWorks() {
     for (const std::optional<int> answer : {std::optional(0), std::optional(1), std::optional<int>()}) {
         m_world->processes.runs.clear();
         m_world->processes.answer = [answer](const Run&) { return answer; };
-        DockStore::restartDock();
+        m_world->dockStore.restartDock();
         QCOMPARE(m_world->processes.runs, QList<Run>{killDock});
     }
 }
@@ -326,7 +330,7 @@ void DockStoreTest::knowsWhetherTheDockRuns_data() {
 void DockStoreTest::knowsWhetherTheDockRuns() {
     QFETCH(const int, status);
     m_world->processes.answer = [status](const Run&) { return status < 0 ? std::nullopt : std::optional(status); };
-    QTEST(DockStore::isDockRunning(), "isRunning");
+    QTEST(m_world->dockStore.isDockRunning(), "isRunning");
     QCOMPARE(m_world->processes.runs, QList<Run>{probeDock});
 }
 
@@ -347,7 +351,7 @@ void DockStoreTest::waitsForTheDock() {
     int left = missedProbes;
     m_world->processes.answer = [&left](const Run&) { return left-- > 0 ? 1 : 0; };
     const auto before = m_world->clock.elapsed();
-    DockStore::waitForDock();
+    m_world->dockStore.waitForDock();
     QCOMPARE(m_world->clock.elapsed() - before, std::chrono::nanoseconds(std::chrono::milliseconds(milliseconds)));
     QList<std::chrono::milliseconds> expected(waits, 200ms);
     expected.prepend(600ms);
@@ -362,7 +366,7 @@ void DockStoreTest::settingTheWallClockDoesNotProlongTheWait() {
         m_world->clock.set(m_world->clock.now().addDays(-1));
         return 1;
     };
-    DockStore::waitForDock();
+    m_world->dockStore.waitForDock();
     QCOMPARE(m_world->clock.sleeps.size(), 24);
 }
 
@@ -371,11 +375,11 @@ void DockStoreTest::dryRunIsDecidedAtEveryCall() {
     startDryRun(u"/x/dock.plist"_s);
     QVERIFY(DockStore::isDryRun());
     QCOMPARE(DockStore::dryRunFile(), u"/x/dock.plist"_s);
-    DockStore::restartDock();
+    m_world->dockStore.restartDock();
     QVERIFY(m_world->processes.runs.isEmpty());
     qunsetenv("KELVANE_DRY_RUN");
     QVERIFY(!DockStore::isDryRun());
-    DockStore::restartDock();
+    m_world->dockStore.restartDock();
     QCOMPARE(restarts(), 1);
 }
 
@@ -383,8 +387,8 @@ void DockStoreTest::dryRunWithoutANameNeverReachesTheDock() {
     qputenv("KELVANE_DRY_RUN", "");
     const Dictionary before = m_world->preferences.stored;
     QVERIFY(DockStore::isDryRun());
-    QVERIFY(DockStore::currentTiles().isEmpty());
-    QCOMPARE(thrownBy([] { DockStore::write(tiles(u"c"_s)); }), DockError::Kind::writeFailed);
+    QVERIFY(m_world->dockStore.currentTiles().isEmpty());
+    QCOMPARE(thrownBy([this] { m_world->dockStore.write(tiles(u"c"_s)); }), DockError::Kind::writeFailed);
     QVERIFY(m_world->preferences.stored == before);
     QVERIFY(m_world->processes.runs.isEmpty());
 }
@@ -392,14 +396,14 @@ void DockStoreTest::dryRunWithoutANameNeverReachesTheDock() {
 void DockStoreTest::firstDryRunReadSeedsTheFile() {
     m_world->preferences.stored.remove(othersKey);
     startDryRun(dryRunPath());
-    QCOMPARE(layoutSignature(DockStore::currentTiles()), layoutSignature(tiles(u"a b _ c"_s)));
+    QCOMPARE(layoutSignature(m_world->dockStore.currentTiles()), layoutSignature(tiles(u"a b _ c"_s)));
     const Dictionary expected = {{appsKey, apps(u"a b _ c"_s)}, {recentsKey, {false}}};
     QVERIFY(PropertyList::readDictionary(dryRunPath()) == expected);
     QVERIFY(contentOf(dryRunPath()).startsWith("<?xml"));
 
     m_world->preferences.stored[appsKey] = apps(u"other"_s);
-    DockStore::write(tiles(u"c a"_s));
-    QCOMPARE(layoutSignature(DockStore::currentTiles()), layoutSignature(tiles(u"c a"_s)));
+    m_world->dockStore.write(tiles(u"c a"_s));
+    QCOMPARE(layoutSignature(m_world->dockStore.currentTiles()), layoutSignature(tiles(u"c a"_s)));
     QVERIFY(m_world->preferences.stored[appsKey] == apps(u"other"_s));
     QCOMPARE(m_world->preferences.saves, 0);
     QVERIFY(m_world->processes.runs.isEmpty());
@@ -408,13 +412,13 @@ void DockStoreTest::firstDryRunReadSeedsTheFile() {
 
 void DockStoreTest::dryRunCaptureSeedsTheFile() {
     startDryRun(dryRunPath());
-    QCOMPARE(DockStore::capture().keys(), QStringList({appsKey, othersKey, recentsKey}));
+    QCOMPARE(m_world->dockStore.capture().keys(), QStringList({appsKey, othersKey, recentsKey}));
     QVERIFY(QFile::exists(dryRunPath()));
 }
 
 void DockStoreTest::seedingTakesFreshValues() {
     const int before = m_world->preferences.synchronizations;
-    DockStore::seedDryRun(dryRunPath());
+    m_world->dockStore.seedDryRun(dryRunPath());
     QCOMPARE(m_world->preferences.synchronizations, before + 1);
 }
 
@@ -426,7 +430,7 @@ void DockStoreTest::dryRunWritesChangeTheFileOnly() {
                               {u"deep"_s, {Array{{Dictionary{{u"é"_s, {PropertyList::UID{5}}}}}, {QByteArray()}}}}};
     QVERIFY(put(dryRunPath(), PropertyList{other}.serialize(PropertyList::Format::xml)));
     startDryRun(dryRunPath());
-    DockStore::write(tiles(u"x | y"_s));
+    m_world->dockStore.write(tiles(u"x | y"_s));
     Dictionary expected = other;
     expected[appsKey] = apps(u"x | y"_s);
     QVERIFY(PropertyList::readDictionary(dryRunPath()) == expected);
@@ -435,21 +439,21 @@ void DockStoreTest::dryRunWritesChangeTheFileOnly() {
 
 void DockStoreTest::dryRunMismatchThrows() {
     startDryRun(dryRunPath());
-    const auto thrown = thrownBy([] { DockStore::apply({{appsKey, apps(u"a b"_s)}}, {u"b"_s, u"a"_s}); });
+    const auto thrown = thrownBy([this] { m_world->dockStore.apply({{appsKey, apps(u"a b"_s)}}, {u"b"_s, u"a"_s}); });
     QCOMPARE(thrown, DockError::Kind::verifyFailed);
     QVERIFY(m_world->processes.runs.isEmpty());
 }
 
 void DockStoreTest::dryRunRestoreDeletesWhatTheStateLacks() {
     startDryRun(dryRunPath());
-    DockStore::capture();
-    DockStore::restore({{appsKey, apps(u"c"_s)}});
+    m_world->dockStore.capture();
+    m_world->dockStore.restore({{appsKey, apps(u"c"_s)}});
     QVERIFY((PropertyList::readDictionary(dryRunPath()) == Dictionary{{appsKey, apps(u"c"_s)}}));
 }
 
 void DockStoreTest::dryRunSetDoesNotSeed() {
     startDryRun(dryRunPath());
-    DockStore::set({{recentsKey, PropertyList{true}}, {othersKey, std::nullopt}});
+    m_world->dockStore.set({{recentsKey, PropertyList{true}}, {othersKey, std::nullopt}});
     QVERIFY((PropertyList::readDictionary(dryRunPath()) == Dictionary{{recentsKey, {true}}}));
     QCOMPARE(m_world->preferences.synchronizations, 0);
 }
@@ -465,10 +469,10 @@ void DockStoreTest::dryRunReadsBothFormatsAndWritesXML() {
     const Dictionary contents = {{appsKey, apps(u"a _ b"_s)}, {u"loc"_s, {u"de_DE"_s}}};
     QVERIFY(put(dryRunPath(), PropertyList{contents}.serialize(static_cast<PropertyList::Format>(format))));
     startDryRun(dryRunPath());
-    QCOMPARE(layoutSignature(DockStore::currentTiles()), layoutSignature(tiles(u"a _ b"_s)));
-    DockStore::write(tiles(u"b a"_s));
+    QCOMPARE(layoutSignature(m_world->dockStore.currentTiles()), layoutSignature(tiles(u"a _ b"_s)));
+    m_world->dockStore.write(tiles(u"b a"_s));
     QVERIFY(contentOf(dryRunPath()).startsWith("<?xml"));
-    QVERIFY(DockStore::value(u"loc"_s) == PropertyList{u"de_DE"_s});
+    QVERIFY(m_world->dockStore.value(u"loc"_s) == PropertyList{u"de_DE"_s});
 }
 
 void DockStoreTest::dryRunKeepsThePermissionsOfTheFile() {
@@ -476,13 +480,13 @@ void DockStoreTest::dryRunKeepsThePermissionsOfTheFile() {
     const auto permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
     QVERIFY(QFile::setPermissions(dryRunPath(), permissions));
     startDryRun(dryRunPath());
-    DockStore::write(tiles(u"a"_s));
+    m_world->dockStore.write(tiles(u"a"_s));
     QCOMPARE(QFile::permissions(dryRunPath()) & ~(QFile::ReadUser | QFile::WriteUser), permissions);
 }
 
 void DockStoreTest::dryRunMakesAPrivateFile() {
     startDryRun(dryRunPath());
-    DockStore::currentTiles();
+    m_world->dockStore.currentTiles();
     QCOMPARE(QFile::permissions(dryRunPath()) & ~(QFile::ReadUser | QFile::WriteUser),
              QFile::ReadOwner | QFile::WriteOwner);
 }
@@ -492,7 +496,7 @@ void DockStoreTest::dryRunFollowsALink() {
     QVERIFY(put(real, PropertyList{Dictionary()}.serialize(PropertyList::Format::xml)));
     QVERIFY(QFile::link(real, dryRunPath()));
     startDryRun(dryRunPath());
-    DockStore::write(tiles(u"a"_s));
+    m_world->dockStore.write(tiles(u"a"_s));
     QVERIFY(QFileInfo(dryRunPath()).isSymLink());
     QVERIFY((PropertyList::readDictionary(real) == Dictionary{{appsKey, apps(u"a"_s)}}));
 }
@@ -514,16 +518,16 @@ void DockStoreTest::hostileDryRunFileReadsAsNoDock() {
     QFETCH(const QByteArray, bytes);
     QVERIFY(put(dryRunPath(), bytes));
     startDryRun(dryRunPath());
-    QVERIFY(DockStore::currentTiles().isEmpty());
-    QVERIFY(DockStore::capture().isEmpty());
-    QVERIFY(!DockStore::value(recentsKey));
+    QVERIFY(m_world->dockStore.currentTiles().isEmpty());
+    QVERIFY(m_world->dockStore.capture().isEmpty());
+    QVERIFY(!m_world->dockStore.value(recentsKey));
     QCOMPARE(contentOf(dryRunPath()), bytes);
 }
 
 void DockStoreTest::anUnreadableDryRunFileIsReplacedByAWrite() {
     QVERIFY(put(dryRunPath(), "nonsense"));
     startDryRun(dryRunPath());
-    DockStore::write(tiles(u"a"_s));
+    m_world->dockStore.write(tiles(u"a"_s));
     QVERIFY((PropertyList::readDictionary(dryRunPath()) == Dictionary{{appsKey, apps(u"a"_s)}}));
 }
 
@@ -531,20 +535,20 @@ void DockStoreTest::dryRunFileThatCannotBeMade() {
     QVERIFY(put(dryRunPath(), "a file, not a folder"));
     for (const QString& path : {dryRunPath() + u"/dock.plist"_s, m_world->directory.path()}) {
         startDryRun(path);
-        DockStore::seedDryRun(path);
-        QVERIFY(DockStore::currentTiles().isEmpty());
-        QCOMPARE(thrownBy([] { DockStore::write(tiles(u"a"_s)); }), DockError::Kind::writeFailed);
+        m_world->dockStore.seedDryRun(path);
+        QVERIFY(m_world->dockStore.currentTiles().isEmpty());
+        QCOMPARE(thrownBy([this] { m_world->dockStore.write(tiles(u"a"_s)); }), DockError::Kind::writeFailed);
     }
     QCOMPARE(contentOf(dryRunPath()), "a file, not a folder");
 }
 
 void DockStoreTest::fullDiskLeavesTheDryRunFileAsItWas() {
     startDryRun(dryRunPath());
-    DockStore::write(tiles(u"a"_s));
+    m_world->dockStore.write(tiles(u"a"_s));
     const QByteArray before = contentOf(dryRunPath());
     {
         const FullDisk disk(64);
-        QCOMPARE(thrownBy([] { DockStore::write(tiles(u"b"_s)); }), DockError::Kind::writeFailed);
+        QCOMPARE(thrownBy([this] { m_world->dockStore.write(tiles(u"b"_s)); }), DockError::Kind::writeFailed);
     }
     QCOMPARE(contentOf(dryRunPath()), before);
     QCOMPARE(QDir(m_world->directory.path()).entryList(QDir::Files), QStringList{u"dock.plist"_s});
@@ -552,9 +556,12 @@ void DockStoreTest::fullDiskLeavesTheDryRunFileAsItWas() {
 
 void DockStoreTest::whatXMLCannotHoldLeavesTheDryRunFileAsItWas() {
     startDryRun(dryRunPath());
-    DockStore::write(tiles(u"a"_s));
+    m_world->dockStore.write(tiles(u"a"_s));
     const QByteArray before = contentOf(dryRunPath());
-    QCOMPARE(thrownBy([] { DockStore::set({{recentsKey, PropertyList{u"\u0001"_s}}}); }), DockError::Kind::writeFailed);
+    QCOMPARE(thrownBy([this] {
+                 m_world->dockStore.set({{recentsKey, PropertyList{u"\u0001"_s}}});
+             }),
+             DockError::Kind::writeFailed);
     QCOMPARE(contentOf(dryRunPath()), before);
 }
 

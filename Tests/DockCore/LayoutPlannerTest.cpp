@@ -171,21 +171,21 @@ private Q_SLOTS:
         QFETCH(const QString, ranked);
         QFETCH(const QString, current);
         QFETCH(const QString, expected);
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         const QList<DockTile> plan = LayoutPlanner::plan(profile(pinned, excluded, slots, separate),
                                                          ranking(words(ranked)), dock(current), catalog);
         QCOMPARE(notation(plan), expected);
     }
 
     void whatIsNewGetsATileOfItsOwn() {
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         const QList<DockTile> plan = LayoutPlanner::plan(profile(u"a"_s, {}, 1, false), ranking({u"b"_s}), {}, catalog);
         QCOMPARE(plan, (QList<DockTile>{DockTile::app({u"a"_s, u"a"_s, u"/Applications/a.app"_s}),
                                         DockTile::app({u"b"_s, u"b"_s, u"/Applications/b.app"_s})}));
     }
 
     void whatIsInTheDockKeepsItsTile() {
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         const QList<DockTile> current = dock(u"x ~ b a"_s);
         const QList<DockTile> plan =
             LayoutPlanner::plan(profile(u"a x"_s, {}, 1, false), ranking({u"b"_s}), current, catalog);
@@ -196,7 +196,7 @@ private Q_SLOTS:
     }
 
     void ofTwoTilesTheFirstIsReused() {
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         const QList<DockTile> current = dock(u"b a a b"_s);
         const QList<DockTile> plan =
             LayoutPlanner::plan(profile(u"a"_s, {}, 1, false), ranking({u"b"_s}), current, catalog);
@@ -204,7 +204,7 @@ private Q_SLOTS:
     }
 
     void theSpacerCarriesItsPlace() {
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         const QList<DockTile> plan =
             LayoutPlanner::plan(profile(u"a b c"_s, {}, 1, true), ranking({u"d"_s}), {}, catalog);
         QCOMPARE(plan.size(), 5);
@@ -224,7 +224,7 @@ private Q_SLOTS:
                 picked.append(pool[random.bounded(among)]);
             return picked;
         };
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         for (int round = 0; round < 500; ++round) {
             const Profile profile =
                 Profile::make(u"Test"_s, u"video"_s, pick(applications), pick(applications).mid(0, 3),

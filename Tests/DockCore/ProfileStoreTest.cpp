@@ -46,7 +46,7 @@ private Q_SLOTS:
 
     void theFirstStartWritesBothFiles() {
         m_world->install(u"com.apple.mail"_s, u"Mail"_s);
-        const ProfileStore store;
+        const ProfileStore store = m_world->profileStore();
         QCOMPARE(names(store.profiles), starterNames);
         QCOMPARE(store.profiles[1].pinned, QStringList{u"com.apple.mail"_s});
         AppSettings expected;
@@ -54,11 +54,11 @@ private Q_SLOTS:
         QCOMPARE(store.settings, expected);
         QCOMPARE(store.active(), store.profiles.first());
 
-        const QJsonArray written = JSONFile::read(Paths::profiles()).value_or(QJsonValue()).toArray();
+        const QJsonArray written = JSONFile::read(m_world->paths().profiles()).value_or(QJsonValue()).toArray();
         QCOMPARE(written.size(), 5);
         for (qsizetype i = 0; i < 5; ++i)
             QCOMPARE(Profile::fromJson(written[i]), store.profiles[i]);
-        QCOMPARE(JSONFile::read(Paths::settings()).value_or(QJsonValue()),
+        QCOMPARE(JSONFile::read(m_world->paths().settings()).value_or(QJsonValue()),
                  QJsonValue(QJsonObject{{u"onboarded"_s, false},
                                         {u"activeProfileID"_s, uuidString(store.profiles.first().id)},
                                         {u"autoUpdate"_s, 86400},
@@ -67,16 +67,16 @@ private Q_SLOTS:
     }
 
     void theNextStartReadsThemAndWritesNothing() {
-        const ProfileStore first;
-        const QByteArray profiles = Files::contentOf(Paths::profiles());
+        const ProfileStore first = m_world->profileStore();
+        const QByteArray profiles = Files::contentOf(m_world->paths().profiles());
         // A file that were written again would lose this.
-        put(Paths::profiles(), profiles + "\n\n");
-        put(Paths::settings(), Files::contentOf(Paths::settings()) + "\n\n");
-        const ProfileStore second;
+        put(m_world->paths().profiles(), profiles + "\n\n");
+        put(m_world->paths().settings(), Files::contentOf(m_world->paths().settings()) + "\n\n");
+        const ProfileStore second = m_world->profileStore();
         QCOMPARE(second.profiles, first.profiles);
         QCOMPARE(second.settings, first.settings);
-        QVERIFY(Files::contentOf(Paths::profiles()).endsWith("\n\n"));
-        QVERIFY(Files::contentOf(Paths::settings()).endsWith("\n\n"));
+        QVERIFY(Files::contentOf(m_world->paths().profiles()).endsWith("\n\n"));
+        QVERIFY(Files::contentOf(m_world->paths().settings()).endsWith("\n\n"));
     }
 
     void unreadableSettingsAreReplacedByTheDefaults_data() {
@@ -95,7 +95,7 @@ private Q_SLOTS:
         AppSettings settings;
         QList<Profile> profiles;
         {
-            ProfileStore store;
+            ProfileStore store = m_world->profileStore();
             store.settings.onboarded = true;
             store.settings.trackingEnabled = false;
             store.settings.activeProfileID = store.profiles[2].id;
@@ -103,16 +103,16 @@ private Q_SLOTS:
             settings = store.settings;
             profiles = store.profiles;
         }
-        QCOMPARE(ProfileStore().settings, settings);
+        QCOMPARE(m_world->profileStore().settings, settings);
         QJsonObject json = settings.toJson().toObject();
         json.insert(key, value);
-        put(Paths::settings(), QJsonDocument(json).toJson());
-        const ProfileStore store;
+        put(m_world->paths().settings(), QJsonDocument(json).toJson());
+        const ProfileStore store = m_world->profileStore();
         AppSettings expected;
         expected.activeProfileID = profiles.first().id;
         QCOMPARE(store.settings, expected);
         QCOMPARE(store.profiles, profiles);
-        QCOMPARE(AppSettings::fromJson(JSONFile::read(Paths::settings()).value_or(QJsonValue())), expected);
+        QCOMPARE(AppSettings::fromJson(JSONFile::read(m_world->paths().settings()).value_or(QJsonValue())), expected);
     }
 
     void unreadableProfilesAreReplacedByTheStarters_data() {
@@ -132,23 +132,23 @@ private Q_SLOTS:
     }
     void unreadableProfilesAreReplacedByTheStarters() {
         QFETCH(const QByteArray, bytes);
-        put(Paths::profiles(), bytes);
-        const ProfileStore store;
+        put(m_world->paths().profiles(), bytes);
+        const ProfileStore store = m_world->profileStore();
         QCOMPARE(names(store.profiles), starterNames);
-        QCOMPARE(JSONFile::read(Paths::profiles()).value_or(QJsonValue()).toArray().size(), 5);
+        QCOMPARE(JSONFile::read(m_world->paths().profiles()).value_or(QJsonValue()).toArray().size(), 5);
         QCOMPARE(store.settings.activeProfileID, store.profiles.first().id);
     }
 
     void keepsTheUsersOwnProfilesInTheirOrder() {
         const QList<Profile> mine = {profile(u"日本"_s), profile(u"Same"_s), profile(u"Same"_s)};
         {
-            ProfileStore store;
+            ProfileStore store = m_world->profileStore();
             store.profiles = mine;
             store.settings.activeProfileID = mine[2].id;
             store.saveProfiles();
             store.saveSettings();
         }
-        const ProfileStore store;
+        const ProfileStore store = m_world->profileStore();
         QCOMPARE(store.profiles, mine);
         QCOMPARE(store.active(), mine[2]);
     }
@@ -156,21 +156,22 @@ private Q_SLOTS:
     void aDeletedActiveProfileIsRepairedAtTheNextStart() {
         const QUuid gone = QUuid::createUuid();
         {
-            ProfileStore store;
+            ProfileStore store = m_world->profileStore();
             store.settings.activeProfileID = gone;
             QCOMPARE(store.active(), store.profiles.first());
             QCOMPARE(store.settings.activeProfileID, gone);
             store.settings.onboarded = true;
             store.saveSettings();
         }
-        const ProfileStore store;
+        const ProfileStore store = m_world->profileStore();
         QCOMPARE(store.settings.activeProfileID, store.profiles.first().id);
         QVERIFY(store.settings.onboarded);
-        QCOMPARE(AppSettings::fromJson(JSONFile::read(Paths::settings()).value_or(QJsonValue())), store.settings);
+        QCOMPARE(AppSettings::fromJson(JSONFile::read(m_world->paths().settings()).value_or(QJsonValue())),
+                 store.settings);
     }
 
     void withoutAnActiveProfileTheFirstCounts() {
-        ProfileStore store;
+        ProfileStore store = m_world->profileStore();
         store.settings.activeProfileID.reset();
         QCOMPARE(store.active(), store.profiles.first());
         store.settings.activeProfileID = store.profiles[3].id;
@@ -179,7 +180,7 @@ private Q_SLOTS:
 
     void withoutProfilesThereIsNoActiveOne() {
         if (ChildProcess::isChild()) {
-            ProfileStore store;
+            ProfileStore store = m_world->profileStore();
             store.profiles.clear();
             store.active();
             return;
@@ -193,7 +194,7 @@ private Q_SLOTS:
         const QString file = m_world->directory.filePath(u"file"_s);
         put(file, "x");
         qputenv("KELVANE_HOME", (file + u"/below"_s).toUtf8());
-        ProfileStore store;
+        ProfileStore store = m_world->profileStore();
         qunsetenv("KELVANE_HOME");
         QCOMPARE(names(store.profiles), starterNames);
         QCOMPARE(store.settings.activeProfileID, store.profiles.first().id);

@@ -13,11 +13,12 @@
 
 using namespace DockCore;
 using namespace Qt::StringLiterals;
-using Ranker::Spotlight;
 
 static_assert(isValue<AppScore>);
 
 namespace {
+enum class Spotlight { exclude, include };
+
 QStringList names(const QList<AppScore>& ranking) {
     QStringList names;
     for (const AppScore& score : ranking)
@@ -217,12 +218,12 @@ private Q_SLOTS:
 
     void oneApplicationUnderTwoSpellingsIsCountedUnderEach() {
         const AppInfo mail = install(u"Mail"_s);
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         m_world->bundles.capitals = Fakes::Bundles::Capitals::equal;
         for (const auto& [bundleID, seconds] :
              {std::pair(u"com.MAIL"_s, 60), {u"com.Mail"_s, 120}, {u"com.mail"_s, 120}})
             m_usage->addSeconds(seconds, bundleID, {}, now());
-        const QList<AppScore> ranking = Ranker::rank(*m_usage, UsageWindow::week, catalog, Spotlight::exclude, now());
+        const QList<AppScore> ranking = Ranker::rank(*m_usage, UsageWindow::week, catalog, nullptr, now());
         QList<double> seconds;
         for (const AppScore& score : ranking) {
             QCOMPARE(score.app, mail);
@@ -243,11 +244,11 @@ private Q_SLOTS:
     void theCopyThatIsCountedStaysWhenAScanFindsAnother() {
         const QString elsewhere = u"/Volumes/Disk/A.app"_s;
         m_world->bundles.add(elsewhere, u"com.A"_s, u"A"_s);
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         QVERIFY(catalog.isInstalled(u"com.A"_s));
         opened(install(u"A"_s), 3);
         m_usage->addSeconds(60, u"com.A"_s, {}, now());
-        const QList<AppScore> ranking = Ranker::rank(*m_usage, UsageWindow::week, catalog, Spotlight::include, now());
+        const QList<AppScore> ranking = Ranker::rank(*m_usage, UsageWindow::week, catalog, &m_world->metadata, now());
         QCOMPARE(ranking.size(), 1);
         QCOMPARE(ranking[0].app.path, elsewhere);
         QCOMPARE(ranking[0].spotlightDays, 0);
@@ -263,10 +264,10 @@ private Q_SLOTS:
     void theBundlesAreReadOnce() {
         for (int i = 0; i < 10; ++i)
             m_usage->addSeconds(60, install(u"A%1"_s.arg(i)).bundleID, {}, now());
-        AppCatalog catalog;
+        AppCatalog catalog(m_world->bundles, m_world->folders);
         catalog.installedApps(AppCatalog::Scan::refresh);
         for (const UsageWindow window : allUsageWindows())
-            Ranker::rank(*m_usage, window, catalog, Spotlight::include, now());
+            Ranker::rank(*m_usage, window, catalog, &m_world->metadata, now());
         for (const int reads : std::as_const(m_world->bundles.reads))
             QCOMPARE(reads, 1);
         QVERIFY(m_world->bundles.lookups.isEmpty());
@@ -332,8 +333,9 @@ private:
     }
 
     QList<AppScore> rank(UsageWindow window, Spotlight spotlight) const {
-        AppCatalog catalog;
-        return Ranker::rank(*m_usage, window, catalog, spotlight, now());
+        AppCatalog catalog(m_world->bundles, m_world->folders);
+        return Ranker::rank(*m_usage, window, catalog, spotlight == Spotlight::include ? &m_world->metadata : nullptr,
+                            now());
     }
 
     std::unique_ptr<Fakes::World> m_world;

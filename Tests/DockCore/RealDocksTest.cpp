@@ -16,8 +16,6 @@ using DockCore::SnapshotStore;
 using DockCore::tilesFrom;
 using Dictionary = PropertyList::Dictionary;
 
-namespace DockStore = DockCore::DockStore;
-
 /// Whole Dock files go through everything that touches the Dock, and come back value for value: our own samples, and
 /// those in the folder that KELVANE_SAMPLE_DOCKS names.
 class RealDocksTest : public QObject {
@@ -59,9 +57,9 @@ void RealDocksTest::comesBack() {
     const QString copy = world.directory.filePath(u"dock.plist"_s);
     QVERIFY(QFile::copy(path, copy) && QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner));
     qputenv("KELVANE_DRY_RUN", QFile::encodeName(copy));
-    const QList<DockTile> before = DockStore::currentTiles();
+    const QList<DockTile> before = world.dockStore.currentTiles();
     QCOMPARE(before.size(), dock->value(u"persistent-apps"_s).array()->size());
-    SnapshotStore snapshots(world.directory.path());
+    SnapshotStore snapshots = world.snapshotStore(world.directory.path());
     const Snapshot original = snapshots.capture(u"Before Kelvane"_s, SnapshotStore::Mark::original);
 
     // What a plan does with a Dock: another order, something new, a spacer, something left out.
@@ -70,7 +68,7 @@ void RealDocksTest::comesBack() {
         planned.removeLast();
     planned.prepend(DockTile::app(AppInfo{u"org.example.New"_s, u"New"_s, u"/Applications/New App.app"_s}));
     planned.insert(1, DockTile::smallSpacer(1));
-    DockStore::write(planned);
+    world.dockStore.write(planned);
 
     Dictionary expected = *dock;
     PropertyList::Array apps;
@@ -78,12 +76,12 @@ void RealDocksTest::comesBack() {
         apps.append(PropertyList{tile.raw});
     expected[u"persistent-apps"_s] = {apps};
     QVERIFY(PropertyList::readDictionary(copy) == expected);
-    QCOMPARE(layoutSignature(DockStore::currentTiles()), layoutSignature(planned));
+    QCOMPARE(layoutSignature(world.dockStore.currentTiles()), layoutSignature(planned));
     QVERIFY(snapshots.previous(planned) == original);
 
-    SnapshotStore(world.directory.path()).restore(original);
+    world.snapshotStore(world.directory.path()).restore(original);
     QVERIFY(PropertyList::readDictionary(copy) == *dock);
-    QVERIFY(DockStore::currentTiles() == before);
+    QVERIFY(world.dockStore.currentTiles() == before);
 }
 
 void RealDocksTest::samplesHoldEveryKindOfTile() {

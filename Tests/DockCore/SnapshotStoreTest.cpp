@@ -141,13 +141,13 @@ void SnapshotStoreTest::init() {
 }
 
 bool SnapshotStoreTest::diskAgrees() const {
-    const QStringList listed = ids(SnapshotStore(folder()).all());
+    const QStringList listed = ids(m_world->snapshotStore(folder()).all());
     return std::all_of(listed.cbegin(), listed.cend(),
                        [this](const QString& id) { return QFile::exists(path(id + u".plist"_s)); });
 }
 
 void SnapshotStoreTest::capturesTheDock() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     QVERIFY(store.all().isEmpty() && !store.original());
     const Snapshot snapshot = store.capture(u"Before Work"_s, Mark::ordinary);
     QCOMPARE(snapshot.reason, u"Before Work"_s);
@@ -163,7 +163,7 @@ void SnapshotStoreTest::capturesTheDock() {
 }
 
 void SnapshotStoreTest::theDateIsReadWhenTheDockIsSaved() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     m_world->clock.betweenLooks = std::chrono::seconds(1);
     const Snapshot snapshot = store.capture(u"Before Work"_s, Mark::ordinary);
     QCOMPARE(snapshot.date.toMSecsSinceEpoch() - snapshot.id.section(u'-', 0, 0).toLongLong(), 1000);
@@ -171,7 +171,7 @@ void SnapshotStoreTest::theDateIsReadWhenTheDockIsSaved() {
 
 void SnapshotStoreTest::namesSnapshotsByTimeAndChance() {
     m_world->clock.set(QDateTime::fromMSecsSinceEpoch(1714986900987));
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     QSet<QString> seen;
     static const QRegularExpression form(u"^1714986900987-[0-9A-F]{6}$"_s);
     for (int round = 0; round < 20; ++round) {
@@ -183,7 +183,7 @@ void SnapshotStoreTest::namesSnapshotsByTimeAndChance() {
 }
 
 void SnapshotStoreTest::writesPrivateFiles() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot snapshot = capture(store);
     for (const QString& name : {u"index.json"_s, snapshot.id + u".plist"_s})
         QCOMPARE(QFile::permissions(path(name)) & ~(QFile::ReadUser | QFile::WriteUser),
@@ -191,18 +191,18 @@ void SnapshotStoreTest::writesPrivateFiles() {
 }
 
 void SnapshotStoreTest::reopensWithWhatWasSaved() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     capture(store, Mark::original);
     setDock(u"c"_s);
     capture(store);
-    const SnapshotStore reopened(folder());
+    const SnapshotStore reopened = m_world->snapshotStore(folder());
     QCOMPARE(reopened.all(), store.all());
     QCOMPARE(reopened.original(), store.all().last());
     QVERIFY((reopened.state(reopened.all().first()) == Dictionary{{appsKey, apps(u"c"_s)}, {recentsKey, {true}}}));
 }
 
 void SnapshotStoreTest::savesTheSameBytesTwice() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot first = capture(store);
     const Snapshot second = capture(store);
     QCOMPARE(contentOf(path(first.id + u".plist"_s)), contentOf(path(second.id + u".plist"_s)));
@@ -212,18 +212,18 @@ void SnapshotStoreTest::savesTheSameBytesTwice() {
 }
 
 void SnapshotStoreTest::keepsTheFortyNewest() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     QStringList captured;
     for (int count = 0; count < 41; ++count)
         captured.prepend(capture(store).id);
     QCOMPARE(ids(store.all()), captured.first(40));
     QVERIFY(!QFile::exists(path(captured.last() + u".plist"_s)));
     QCOMPARE(stateFiles().size(), 40);
-    QCOMPARE(ids(SnapshotStore(folder()).all()), captured.first(40));
+    QCOMPARE(ids(m_world->snapshotStore(folder()).all()), captured.first(40));
 }
 
 void SnapshotStoreTest::keepsTheOriginalAndTheFortyNewest() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot original = capture(store, Mark::original);
     QStringList captured;
     for (int count = 0; count < 41; ++count)
@@ -234,7 +234,7 @@ void SnapshotStoreTest::keepsTheOriginalAndTheFortyNewest() {
 }
 
 void SnapshotStoreTest::originalStaysForEver() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot original = capture(store, Mark::original);
     for (int count = 0; count < 100; ++count)
         capture(store);
@@ -245,7 +245,7 @@ void SnapshotStoreTest::originalStaysForEver() {
 }
 
 void SnapshotStoreTest::firstOfSeveralOriginalsInTheListCounts() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     capture(store, Mark::original);
     const Snapshot second = capture(store, Mark::original);
     capture(store);
@@ -253,7 +253,7 @@ void SnapshotStoreTest::firstOfSeveralOriginalsInTheListCounts() {
 }
 
 void SnapshotStoreTest::previousSkipsTheCurrentLayout() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     capture(store);
     setDock(u"b a"_s);
     const Snapshot other = capture(store);
@@ -266,7 +266,7 @@ void SnapshotStoreTest::previousSkipsTheCurrentLayout() {
 }
 
 void SnapshotStoreTest::previousIsNothingWhenAllAreAlike() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     QVERIFY(!store.previous(tiles(u"a"_s)));
     capture(store);
     capture(store);
@@ -274,17 +274,17 @@ void SnapshotStoreTest::previousIsNothingWhenAllAreAlike() {
 }
 
 void SnapshotStoreTest::removesASnapshotAndItsFile() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot first = capture(store);
     const Snapshot second = capture(store);
     store.remove(first);
     QCOMPARE(store.all(), QList<Snapshot>{second});
     QCOMPARE(stateFiles(), QStringList{second.id + u".plist"_s});
-    QCOMPARE(ids(SnapshotStore(folder()).all()), QStringList{second.id});
+    QCOMPARE(ids(m_world->snapshotStore(folder()).all()), QStringList{second.id});
 }
 
 void SnapshotStoreTest::removingTheOriginalChangesNothing() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot original = capture(store, Mark::original);
     const QByteArray index = contentOf(indexPath());
     store.remove(original);
@@ -294,7 +294,7 @@ void SnapshotStoreTest::removingTheOriginalChangesNothing() {
 }
 
 void SnapshotStoreTest::removingAnOriginalByAStaleRecordChangesNothing() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     Snapshot stale = capture(store, Mark::original);
     stale.isOriginal = false;
     store.remove(stale);
@@ -303,7 +303,7 @@ void SnapshotStoreTest::removingAnOriginalByAStaleRecordChangesNothing() {
 }
 
 void SnapshotStoreTest::removingAnUnknownSnapshotChangesNothing() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     capture(store);
     QVERIFY(put(m_world->directory.filePath(u"precious.plist"_s), "x"));
     store.remove(Snapshot{u"../precious"_s, {}, {}, {}, {}, false});
@@ -312,7 +312,7 @@ void SnapshotStoreTest::removingAnUnknownSnapshotChangesNothing() {
 }
 
 void SnapshotStoreTest::restoresTheDock() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Dictionary before = m_world->preferences.stored;
     const Snapshot snapshot = capture(store);
     setDock(u"x y"_s);
@@ -328,7 +328,7 @@ void SnapshotStoreTest::restoresTheDock() {
 
 void SnapshotStoreTest::restoresWithoutRecentsByDeletingTheKey() {
     m_world->preferences.stored.remove(recentsKey);
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot snapshot = capture(store);
     m_world->preferences.stored[recentsKey] = {true};
     store.restore(snapshot);
@@ -336,7 +336,7 @@ void SnapshotStoreTest::restoresWithoutRecentsByDeletingTheKey() {
 }
 
 void SnapshotStoreTest::restoreOfAMissingFileThrowsBeforeAnything() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot snapshot = capture(store);
     const Dictionary before = m_world->preferences.stored;
     QVERIFY(QFile::remove(path(snapshot.id + u".plist"_s)));
@@ -358,7 +358,7 @@ void SnapshotStoreTest::restoreOfADamagedFileThrowsBeforeAnything_data() {
 
 void SnapshotStoreTest::restoreOfADamagedFileThrowsBeforeAnything() {
     QFETCH(const QByteArray, bytes);
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot snapshot = capture(store);
     QVERIFY(put(path(snapshot.id + u".plist"_s), bytes));
     QCOMPARE(failureOf([&] { store.restore(snapshot); }),
@@ -368,7 +368,7 @@ void SnapshotStoreTest::restoreOfADamagedFileThrowsBeforeAnything() {
 }
 
 void SnapshotStoreTest::restoreNeedsItsSafetySnapshot() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot snapshot = capture(store);
     setDock(u"x"_s);
     const FullDisk disk(0);
@@ -378,7 +378,7 @@ void SnapshotStoreTest::restoreNeedsItsSafetySnapshot() {
 }
 
 void SnapshotStoreTest::refusedRestoreKeepsTheSafetySnapshot() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot snapshot = capture(store);
     setDock(u"x"_s);
     m_world->preferences.refusesToSave = true;
@@ -461,24 +461,24 @@ void SnapshotStoreTest::badIndexOpensEmpty_data() {
 void SnapshotStoreTest::badIndexOpensEmpty() {
     QFETCH(const QByteArray, index);
     QVERIFY(put(indexPath(), index));
-    const SnapshotStore store(folder());
+    const SnapshotStore store = m_world->snapshotStore(folder());
     QVERIFY(store.all().isEmpty());
     QVERIFY(!store.original());
     QCOMPARE(contentOf(indexPath()), index);
 }
 
 void SnapshotStoreTest::captureReplacesABadIndex() {
-    SnapshotStore first(folder());
+    SnapshotStore first = m_world->snapshotStore(folder());
     const Snapshot old = capture(first);
     QVERIFY(put(indexPath(), "broken"));
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot fresh = capture(store);
-    QCOMPARE(ids(SnapshotStore(folder()).all()), QStringList{fresh.id});
+    QCOMPARE(ids(m_world->snapshotStore(folder()).all()), QStringList{fresh.id});
     QCOMPARE(stateFiles(), QStringList({old.id + u".plist"_s, fresh.id + u".plist"_s}));
 }
 
 void SnapshotStoreTest::failedStateFileChangesNothing() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot snapshot = capture(store);
     const QByteArray index = contentOf(indexPath());
     {
@@ -496,7 +496,7 @@ void SnapshotStoreTest::failedStateFileChangesNothing() {
 }
 
 void SnapshotStoreTest::failedIndexKeepsTheNewSnapshot() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot first = capture(store);
     QVERIFY(QFile::remove(indexPath()) && QDir().mkdir(indexPath()));
     const auto failure = failureOf([&] { capture(store); });
@@ -507,12 +507,12 @@ void SnapshotStoreTest::failedIndexKeepsTheNewSnapshot() {
 
     QVERIFY(QDir().rmdir(indexPath()));
     capture(store);
-    QCOMPARE(SnapshotStore(folder()).all().size(), 3);
+    QCOMPARE(m_world->snapshotStore(folder()).all().size(), 3);
     QVERIFY(diskAgrees());
 }
 
 void SnapshotStoreTest::failedIndexKeepsThePrunedFilesUntilTheNextSave() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     for (int count = 0; count < 40; ++count)
         capture(store);
     const QStringList listed = ids(store.all());
@@ -525,18 +525,18 @@ void SnapshotStoreTest::failedIndexKeepsThePrunedFilesUntilTheNextSave() {
         QVERIFY(failureOf([&] { capture(store); }));
     }
     QCOMPARE(store.all().size(), 40);
-    QCOMPARE(ids(SnapshotStore(folder()).all()), listed);
+    QCOMPARE(ids(m_world->snapshotStore(folder()).all()), listed);
     QVERIFY(diskAgrees());
     QCOMPARE(stateFiles().size(), 42);
 
     capture(store);
     QCOMPARE(stateFiles().size(), 40);
-    QCOMPARE(ids(SnapshotStore(folder()).all()), ids(store.all()));
+    QCOMPARE(ids(m_world->snapshotStore(folder()).all()), ids(store.all()));
     QVERIFY(diskAgrees());
 }
 
 void SnapshotStoreTest::failedIndexKeepsTheRemovedFileUntilTheNextSave() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     const Snapshot first = capture(store);
     const Snapshot second = capture(store);
     {
@@ -544,15 +544,15 @@ void SnapshotStoreTest::failedIndexKeepsTheRemovedFileUntilTheNextSave() {
         store.remove(first);
     }
     QCOMPARE(store.all(), QList<Snapshot>{second});
-    QCOMPARE(ids(SnapshotStore(folder()).all()), ids({second, first}));
+    QCOMPARE(ids(m_world->snapshotStore(folder()).all()), ids({second, first}));
     QVERIFY(diskAgrees());
     store.remove(second);
     QVERIFY(store.all().isEmpty() && stateFiles().isEmpty());
-    QVERIFY(SnapshotStore(folder()).all().isEmpty());
+    QVERIFY(m_world->snapshotStore(folder()).all().isEmpty());
 }
 
 void SnapshotStoreTest::listStaysWholeWhileAnotherThreadCaptures() {
-    SnapshotStore store(folder());
+    SnapshotStore store = m_world->snapshotStore(folder());
     std::atomic<bool> isDone = false;
     std::thread writer([&] {
         for (int count = 0; count < 60; ++count)

@@ -86,9 +86,10 @@ private Q_SLOTS:
         QFETCH(const qint64, inMonth);
         const Fakes::TimeZone here(zone);
         m_world->metadata.items[path].usedDates = moments(used);
-        QCOMPARE(SpotlightUsage::lookup(path, UsageWindow::week, utc(now)).daysUsed, inWeek);
-        QCOMPARE(SpotlightUsage::lookup(path, UsageWindow::month, utc(now)).daysUsed, inMonth);
-        QCOMPARE(SpotlightUsage::lookup(path, UsageWindow::week, utc(now).toLocalTime()).daysUsed, inWeek);
+        QCOMPARE(SpotlightUsage::lookup(m_world->metadata, path, UsageWindow::week, utc(now)).daysUsed, inWeek);
+        QCOMPARE(SpotlightUsage::lookup(m_world->metadata, path, UsageWindow::month, utc(now)).daysUsed, inMonth);
+        QCOMPARE(SpotlightUsage::lookup(m_world->metadata, path, UsageWindow::week, utc(now).toLocalTime()).daysUsed,
+                 inWeek);
     }
 
     void aCutoffAtATimeThatDayDidNotHaveLiesInTheSameDay() {
@@ -96,9 +97,9 @@ private Q_SLOTS:
         // 2:30 on 6 April; there is no 2:30 on 30 March.
         const QDateTime now = utc(u"2025-04-06T00:30:00Z"_s);
         m_world->metadata.items[path].usedDates = moments(u"2025-03-29T23:00:00Z 2025-03-30T21:00:00Z"_s);
-        QCOMPARE(SpotlightUsage::lookup(path, UsageWindow::week, now).daysUsed, 1);
+        QCOMPARE(SpotlightUsage::lookup(m_world->metadata, path, UsageWindow::week, now).daysUsed, 1);
         m_world->metadata.items[path].usedDates = moments(u"2025-03-29T23:00:00Z"_s);
-        QCOMPARE(SpotlightUsage::lookup(path, UsageWindow::week, now).daysUsed, 0);
+        QCOMPARE(SpotlightUsage::lookup(m_world->metadata, path, UsageWindow::week, now).daysUsed, 0);
     }
 
     void lastUsed_data() {
@@ -125,14 +126,15 @@ private Q_SLOTS:
             item.usedDates = moments(used);
         if (!last.isEmpty())
             item.lastUsedDate = utc(last);
-        const auto result = SpotlightUsage::lookup(path, UsageWindow::week, m_world->clock.now());
+        const auto result = SpotlightUsage::lookup(m_world->metadata, path, UsageWindow::week, m_world->clock.now());
         QCOMPARE(result.lastUsed, expected.isEmpty() ? std::nullopt : std::optional(utc(expected)));
         if (used.isEmpty())
             QCOMPARE(result.daysUsed, 0);
     }
 
     void anUnknownPathIsNothing() {
-        const auto result = SpotlightUsage::lookup(u"/missing"_s, UsageWindow::month, m_world->clock.now());
+        const auto result =
+            SpotlightUsage::lookup(m_world->metadata, u"/missing"_s, UsageWindow::month, m_world->clock.now());
         QCOMPARE(result, SpotlightUsage::Result());
         QCOMPARE(result.daysUsed, 0);
         QVERIFY(!result.lastUsed);

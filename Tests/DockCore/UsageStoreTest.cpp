@@ -329,7 +329,7 @@ private Q_SLOTS:
         UsageStore store(path());
         store.addSeconds(1, mail, u"Mail"_s, today);
         store.addSeconds(1, safari, u"Safari"_s, local(2025, 5, 1).addDays(-age));
-        store.save();
+        store.save(m_world->clock.now());
         const QString key = UsageStore::dayKey(local(2025, 5, 1).addDays(-age));
         for (const UsageStore& other : {store.copy(), UsageStore(path())}) {
             QVERIFY(other.day(UsageStore::dayKey(today)));
@@ -340,16 +340,16 @@ private Q_SLOTS:
 
     void saveWritesOnlyWhenSomethingChanged() {
         UsageStore store(path());
-        store.save();
+        store.save(m_world->clock.now());
         QVERIFY(!QFile::exists(path()));
         store.addActivation(mail, {}, now());
-        store.save();
+        store.save(m_world->clock.now());
         QVERIFY(!store.isDirty());
         QVERIFY(QFile::remove(path()));
-        store.save();
+        store.save(m_world->clock.now());
         QVERIFY(!QFile::exists(path()));
         store.addActivation(mail, {}, now());
-        store.save();
+        store.save(m_world->clock.now());
         QVERIFY(QFile::exists(path()));
     }
 
@@ -357,22 +357,22 @@ private Q_SLOTS:
         const QString missing = m_world->directory.filePath(u"missing"_s);
         UsageStore store(missing + u"/usage.json"_s);
         store.addActivation(mail, {}, now());
-        store.save();
+        store.save(m_world->clock.now());
         QVERIFY(!store.isDirty());
         QVERIFY(QDir().mkdir(missing));
-        store.save();
+        store.save(m_world->clock.now());
         QVERIFY(!QFile::exists(missing + u"/usage.json"_s));
         store.addActivation(mail, {}, now());
-        store.save();
+        store.save(m_world->clock.now());
         QCOMPARE(UsageStore(missing + u"/usage.json"_s).totals(UsageWindow::week, now()).value(mail).activations, 2);
     }
 
     void aNumberThatNoFileHoldsKeepsTheOldFile() {
         UsageStore store(path());
         store.addSeconds(1, mail, {}, now());
-        store.save();
+        store.save(m_world->clock.now());
         store.addSeconds(std::numeric_limits<double>::infinity(), mail, {}, now());
-        store.save();
+        store.save(m_world->clock.now());
         QVERIFY(!store.isDirty());
         QCOMPARE(UsageStore(path()).totals(UsageWindow::week, now()).value(mail).seconds, 1.0);
     }
@@ -382,7 +382,7 @@ private Q_SLOTS:
         UsageStore store(path());
         store.addSeconds(90.5, safari, u"Safari"_s, now());
         store.addActivation(mail, u"Mail"_s, now());
-        store.save();
+        store.save(m_world->clock.now());
         QCOMPARE(read(), R"({
     "days": {
         "2026-03-11": {
@@ -414,7 +414,7 @@ private Q_SLOTS:
                              now().addDays(-i % 91));
             store.addActivation(bundleID, {}, now().addDays(-i % 30));
         }
-        store.save();
+        store.save(m_world->clock.now());
         const UsageStore other(path());
         QVERIFY(!other.isDirty());
         QCOMPARE(other.trackingSince(), store.trackingSince());
@@ -429,7 +429,7 @@ private Q_SLOTS:
         write(R"({"version":42,"names":{},"days":{}})");
         UsageStore store(path());
         store.addActivation(mail, {}, now());
-        store.save();
+        store.save(m_world->clock.now());
         QCOMPARE(QJsonDocument::fromJson(read())[u"version"].toInt(), 42);
     }
 
@@ -484,10 +484,10 @@ private Q_SLOTS:
         QVERIFY(!store.isDirty());
         QVERIFY(!store.trackingSince());
         QCOMPARE(store.trackedDays(UsageWindow::month, now()), 0);
-        store.save();
+        store.save(m_world->clock.now());
         QCOMPARE(read(), bytes);
         store.addActivation(mail, {}, now());
-        store.save();
+        store.save(m_world->clock.now());
         QVERIFY(UsageStore(path()).trackingSince());
     }
 
@@ -505,7 +505,7 @@ private Q_SLOTS:
     void eraseForgetsEverything() {
         UsageStore store(path());
         store.addActivation(mail, u"Mail"_s, now());
-        store.save();
+        store.save(m_world->clock.now());
         store.addActivation(mail, u"Mail"_s, now());
         store.erase();
         QVERIFY(!QFile::exists(path()));
@@ -513,7 +513,7 @@ private Q_SLOTS:
         QVERIFY(!store.trackingSince());
         QVERIFY(!store.name(mail));
         QCOMPARE(store.trackedDays(UsageWindow::month, now()), 0);
-        store.save();
+        store.save(m_world->clock.now());
         QVERIFY(!QFile::exists(path()));
         store.erase();
 
@@ -535,7 +535,7 @@ private Q_SLOTS:
         store.addSeconds(100, mail, {}, now());
         QCOMPARE(copy.day(today)->seconds.value(mail), 11.0);
         QCOMPARE(copy.name(mail), u"Post"_s);
-        copy.save();
+        copy.save(m_world->clock.now());
         QCOMPARE(UsageStore(path()).day(today)->seconds.value(mail), 11.0);
     }
 

@@ -18,7 +18,7 @@ using DockNotation::tiles;
 using Dictionary = PropertyList::Dictionary;
 using Files::put;
 
-namespace DockStore = DockCore::DockStore;
+using DockCore::DockStore;
 
 namespace {
 
@@ -112,15 +112,16 @@ void RestartTest::writesUntilTheDockKeepsTheList() {
     QVERIFY(dock.isReady());
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(dock.configuration()));
     LinuxServices computer;
-    const DockCore::ServicesScope scope(computer.platform());
-    QVERIFY(DockStore::isDockRunning());
-    QCOMPARE(layoutSignature(DockStore::currentTiles()), layoutSignature(tiles(before)));
+    const DockCore::Services services = computer.services();
+    DockStore dockStore(services.preferences, services.processes, services.clock);
+    QVERIFY(dockStore.isDockRunning());
+    QCOMPARE(layoutSignature(dockStore.currentTiles()), layoutSignature(tiles(before)));
 
     std::optional<DockError::Kind> thrown;
     QElapsedTimer timer;
     timer.start();
     try {
-        DockStore::write(tiles(after));
+        dockStore.write(tiles(after));
     } catch (const DockError& error) {
         thrown = error.kind();
     }
@@ -131,7 +132,7 @@ void RestartTest::writesUntilTheDockKeepsTheList() {
     QCOMPARE(thrown, holds ? std::nullopt : std::optional(DockError::Kind::verifyFailed));
     QCOMPARE(dock.starts(), 1 + restarts);
     QCOMPARE(dock.writes(), restarts);
-    QVERIFY(DockStore::isDockRunning());
+    QVERIFY(dockStore.isDockRunning());
     QVERIFY(PropertyList::readDictionary(dock.preferences()) == *LivingDock::dock(holds ? after : before).dictionary());
 }
 

@@ -1,8 +1,6 @@
 // Records ten seconds and saves, over and over, and says after each save how many seconds are in the file by now.
 
-#include "DockCore/Services.h"
 #include "DockCore/UsageStore.h"
-#include "Platform/SystemServices.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -10,8 +8,6 @@
 #include <cstdio>
 
 int main(int, char** argv) {
-    SystemServices system;
-    const DockCore::ServicesScope scope(system.platform());
     DockCore::UsageStore usage(QFile::decodeName(argv[1]));
     const QDateTime now = QDateTime::currentDateTimeUtc();
     const QString mail = QStringLiteral("com.example.Mail");
@@ -23,7 +19,7 @@ int main(int, char** argv) {
     double sum = usage.totals(DockCore::UsageWindow::month, now).value(mail).seconds;
     for (;;) {
         usage.addSeconds(10, mail, QStringLiteral("Mail"), now);
-        usage.save();
+        usage.save(now);
         sum += 10;
         std::printf("%.0f\n", sum);
         std::fflush(stdout);

@@ -1,7 +1,6 @@
 // The tracker as a process of its own, without the rest of the application: records until it is asked to end, then says
 // how often its event loop woke.
 
-#include "DockCore/Services.h"
 #include "DockCore/Storage/Paths.h"
 #include "DockCore/UsageStore.h"
 #include "Kelvane/UsageTracker.h"
@@ -17,11 +16,10 @@
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     LinuxServices system;
-    const DockCore::ServicesScope scope(system.platform());
     const TerminationSignals signals;
-    Platform::X11Workspace workspace;
-    DockCore::UsageStore usage(DockCore::Paths::usage());
-    Kelvane::UsageTracker tracker(usage, &workspace);
+    Platform::X11Workspace workspace(system.services().bundles);
+    DockCore::UsageStore usage(DockCore::Paths(system.services().folders).usage());
+    Kelvane::UsageTracker tracker(usage, system.services().clock, &workspace);
     QObject::connect(&signals, &TerminationSignals::received, &tracker, [&tracker] {
         tracker.flush();
         QCoreApplication::quit();

@@ -20,7 +20,7 @@ class AppModelTest : public QObject {
 private Q_SLOTS:
     void init() {
         world.emplace();
-        model.emplace(nullptr, &login);
+        model.emplace(world->services(), world->paths(), nullptr, &login);
         pinActive(*model, {u"c"_s, u"a"_s});
     }
     void cleanup() {
@@ -213,8 +213,8 @@ void AppModelTest::aDockThatDoesNotHoldIsToldAndChangesNoSettings() {
 
 void AppModelTest::nothingIsWrittenWhenTheDockCannotBeSaved() {
     QVERIFY(refreshAndWait(*model));
-    QVERIFY(QDir(Paths::snapshots()).removeRecursively());
-    QFile blocker(Paths::support() + u"/Snapshots"_s);
+    QVERIFY(QDir(world->paths().snapshots()).removeRecursively());
+    QFile blocker(world->paths().support() + u"/Snapshots"_s);
     QVERIFY(blocker.open(QIODevice::WriteOnly));
     const int saves = world->preferences.saves;
     model->applyActive(AppModel::Notify::always);
@@ -299,7 +299,7 @@ void AppModelTest::startingTakesTheTrackingFromTheSettings() {
     model->setTracking(isOn);
     Fakes::Workspace workspace;
     workspace.front = Fakes::Workspace::regular(ModelWorld::bundleID(u"d"_s), u"d"_s);
-    model.emplace(&workspace, nullptr);
+    model.emplace(world->services(), world->paths(), &workspace, nullptr);
     model->start();
     world->clock.advance(10s);
     model->tracker().sample();
@@ -311,7 +311,7 @@ void AppModelTest::historyAndLoginItemAreKnownFromTheBeginning() {
     QVERIFY(!model->launchAtLogin());
     model->captureOriginal();
     login.enabled = true;
-    model.emplace(nullptr, &login);
+    model.emplace(world->services(), world->paths(), nullptr, &login);
     QCOMPARE(model->snapshots().size(), 1);
     QVERIFY(model->launchAtLogin());
 }
@@ -330,7 +330,7 @@ void AppModelTest::applyGoesByTheDockAsItIsNow() {
     QVERIFY(refreshAndWait(*model));
     // Somebody puts c there, and what the Dock has of it stays as it is.
     world->setDock({u"b"_s, u"c"_s});
-    const QList<DockTile> byHand = DockStore::currentTiles();
+    const QList<DockTile> byHand = world->dockStore.currentTiles();
     PropertyList::Array tiles;
     for (const DockTile& tile : byHand) {
         PropertyList::Dictionary raw = tile.raw;
@@ -341,18 +341,18 @@ void AppModelTest::applyGoesByTheDockAsItIsNow() {
     model->applyActive(AppModel::Notify::failuresOnly);
     QVERIFY(waitForChange(*model));
     QCOMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
-    QVERIFY(DockStore::currentTiles().constFirst().raw.contains(u"mark"_s));
+    QVERIFY(world->dockStore.currentTiles().constFirst().raw.contains(u"mark"_s));
 }
 
 void AppModelTest::aRestoreIsSaved() {
     QVERIFY(refreshAndWait(*model));
     model->applyActive(AppModel::Notify::always);
     QVERIFY(waitForChange(*model));
-    QVERIFY(ProfileStore().settings.lastAppliedSignature);
+    QVERIFY(world->profileStore().settings.lastAppliedSignature);
     model->restorePrevious();
     QVERIFY(waitForChange(*model));
-    QVERIFY(ProfileStore().settings.autoPaused);
-    QVERIFY(!ProfileStore().settings.lastAppliedSignature);
+    QVERIFY(world->profileStore().settings.autoPaused);
+    QVERIFY(!world->profileStore().settings.lastAppliedSignature);
 }
 
 void AppModelTest::theOriginalIsSavedOnce() {
@@ -366,13 +366,13 @@ void AppModelTest::theOriginalIsSavedOnce() {
 }
 
 void AppModelTest::aFailedOriginalIsTriedAgainAtTheNextStart() {
-    QVERIFY(QDir(Paths::snapshots()).removeRecursively());
-    QFile blocker(Paths::support() + u"/Snapshots"_s);
+    QVERIFY(QDir(world->paths().snapshots()).removeRecursively());
+    QFile blocker(world->paths().support() + u"/Snapshots"_s);
     QVERIFY(blocker.open(QIODevice::WriteOnly));
     model->captureOriginal();
     QVERIFY(!model->toast());
     QVERIFY(blocker.remove());
-    QCOMPARE(Paths::snapshots(), Paths::support() + u"/Snapshots"_s);
+    QCOMPARE(world->paths().snapshots(), world->paths().support() + u"/Snapshots"_s);
     model->captureOriginal();
     QCOMPARE(model->snapshots().size(), 1);
 }
@@ -404,7 +404,7 @@ void AppModelTest::newProfilesAreNumbered() {
     QVERIFY(added.pinned.isEmpty());
     QVERIFY(added.excluded.isEmpty());
     QCOMPARE(model->profiles().constLast(), added);
-    QCOMPARE(ProfileStore().profiles, model->profiles());
+    QCOMPARE(world->profileStore().profiles, model->profiles());
 }
 
 void AppModelTest::duplicatesKeepOneName() {
@@ -415,8 +415,8 @@ void AppModelTest::duplicatesKeepOneName() {
     QCOMPARE(again.name, u"Work Copy"_s);
     QVERIFY(copy.id != first.id && copy.id != again.id);
     QCOMPARE(copy.pinned, first.pinned);
-    QCOMPARE(ProfileStore().profiles, model->profiles());
-    QCOMPARE(ProfileStore().profiles.constLast(), again);
+    QCOMPARE(world->profileStore().profiles, model->profiles());
+    QCOMPARE(world->profileStore().profiles.constLast(), again);
 }
 
 void AppModelTest::theOnlyProfileStays() {
@@ -431,10 +431,10 @@ void AppModelTest::removingTheActiveProfileActivatesTheFirstRemaining() {
     const QList<Profile> before = model->profiles();
     model->removeProfile(before.constFirst().id);
     QCOMPARE(model->settings().activeProfileID, before[1].id);
-    QCOMPARE(ProfileStore().settings.activeProfileID, before[1].id);
+    QCOMPARE(world->profileStore().settings.activeProfileID, before[1].id);
     model->removeProfile(before[3].id);
     QCOMPARE(model->settings().activeProfileID, before[1].id);
-    QCOMPARE(ProfileStore().profiles.size(), before.size() - 2);
+    QCOMPARE(world->profileStore().profiles.size(), before.size() - 2);
 }
 
 void AppModelTest::removingTheActiveProfileProposesTheNext() {
@@ -464,7 +464,7 @@ void AppModelTest::updateOfAnotherProfileLeavesTheProposal() {
     other.pinned = ModelWorld::bundleIDs({u"e"_s});
     model->update(other);
     QCOMPARE(proposed.count(), 0);
-    QCOMPARE(ProfileStore().profiles[1], other);
+    QCOMPARE(world->profileStore().profiles[1], other);
     pinActive(*model, {u"d"_s});
     QCOMPARE(layoutSignature(model->proposal()), ModelWorld::bundleIDs({u"d"_s}));
 }
@@ -512,7 +512,7 @@ void AppModelTest::finishingTheFirstRunWithAnEmptyProposalStillEndsIt() {
     pinActive(*model, {});
     model->finishOnboarding(AppModel::Apply::yes);
     QVERIFY(model->settings().onboarded);
-    QVERIFY(ProfileStore().settings.onboarded);
+    QVERIFY(world->profileStore().settings.onboarded);
     QCOMPARE(model->toast()->text, u"Work has no apps yet. Add some in Profiles."_s);
 }
 

@@ -92,8 +92,8 @@ void AutoUpdateTest::cleanup() {
 
 void AutoUpdateTest::startWith(const AppSettings& settings) {
     model.reset();
-    JSONFile::save(settings.toJson(), Paths::settings());
-    model.emplace(&*workspace, nullptr);
+    JSONFile::save(settings.toJson(), world->paths().settings());
+    model.emplace(world->services(), world->paths(), &*workspace, nullptr);
     pinActive(*model, {u"c"_s, u"a"_s});
 }
 
@@ -115,8 +115,8 @@ void AutoUpdateTest::aCheckAppliesOnlyWhenEverythingSpeaksForIt_data() {
     QTest::addColumn<std::optional<Seconds>>("idle");
     QTest::addColumn<bool>("applies");
 
-    const ModelWorld clocks;
-    const QDateTime now = DockCore::Services::current().clock.now();
+    ModelWorld clocks;
+    const QDateTime now = clocks.clock.now();
     const AppSettings ready = seasoned(now);
     const std::optional<Seconds> away = 1h;
     const auto with = [&ready](auto change) {
@@ -171,8 +171,8 @@ void AutoUpdateTest::aCheckAppliesOnlyWhenEverythingSpeaksForIt() {
 }
 
 void AutoUpdateTest::withoutAWorkspaceTheScheduleIsKept() {
-    JSONFile::save(seasoned(world->clock.now()).toJson(), Paths::settings());
-    model.emplace(nullptr, nullptr);
+    JSONFile::save(seasoned(world->clock.now()).toJson(), world->paths().settings());
+    model.emplace(world->services(), world->paths(), nullptr, nullptr);
     pinActive(*model, {u"c"_s, u"a"_s});
     QVERIFY(check());
     QCOMPARE(dock(), QStringList({u"c"_s, u"a"_s}));
@@ -200,9 +200,9 @@ void AutoUpdateTest::usageIsSavedBeforeTheRankingLooks() {
         world->clock.advance(10s);
         model->tracker().sample();
     }
-    QVERIFY(!QFile::exists(Paths::usage()));
+    QVERIFY(!QFile::exists(world->paths().usage()));
     QVERIFY(check());
-    QVERIFY(QFile::remove(Paths::usage()));
+    QVERIFY(QFile::remove(world->paths().usage()));
     const auto& ranking = model->rankings().value(UsageWindow::week);
     QCOMPARE(ranking.size(), 1);
     QCOMPARE(ranking.constFirst().seconds, 40.0);
@@ -211,10 +211,10 @@ void AutoUpdateTest::usageIsSavedBeforeTheRankingLooks() {
         world->clock.advance(10s);
         model->tracker().sample();
     }
-    QVERIFY(!QFile::exists(Paths::usage()));
+    QVERIFY(!QFile::exists(world->paths().usage()));
     world->clock.advance(10s);
     model->tracker().sample();
-    QVERIFY(QFile::exists(Paths::usage()));
+    QVERIFY(QFile::exists(world->paths().usage()));
 }
 
 void AutoUpdateTest::aDeclinedCheckSavesNothing() {
@@ -226,7 +226,7 @@ void AutoUpdateTest::aDeclinedCheckSavesNothing() {
     workspace->idle = 3s;
     QVERIFY(!check());
     QVERIFY(model->usage().isDirty());
-    QVERIFY(!QFile::exists(Paths::usage()));
+    QVERIFY(!QFile::exists(world->paths().usage()));
 }
 
 void AutoUpdateTest::aSilentApplySaysNothingAndRecordsEverything() {
@@ -319,7 +319,7 @@ void AutoUpdateTest::aPauseIsKeptAcrossStarts() {
     world->setDock({u"e"_s});
     QVERIFY(check());
     model.reset();
-    model.emplace(&*workspace, nullptr);
+    model.emplace(world->services(), world->paths(), &*workspace, nullptr);
     QVERIFY(model->settings().autoPaused);
     QVERIFY(!check());
 }
@@ -440,7 +440,7 @@ void AutoUpdateTest::anApplyThatOutlastsTheModelIsRecorded() {
     gate.open();
     model.reset();
     QVERIFY(!isAnswered);
-    model.emplace(&*workspace, nullptr);
+    model.emplace(world->services(), world->paths(), &*workspace, nullptr);
     QCOMPARE(model->settings().lastAppliedSignature, ModelWorld::bundleIDs({u"c"_s, u"a"_s}));
     QVERIFY(refreshAndWait(*model));
     QVERIFY(!model->settings().autoPaused);
@@ -455,7 +455,7 @@ void AutoUpdateTest::aRestoreThatOutlastsTheModelIsRecorded() {
     QTRY_COMPARE(dock(), QStringList({u"a"_s, u"b"_s}));
     gate.open();
     model.reset();
-    model.emplace(&*workspace, nullptr);
+    model.emplace(world->services(), world->paths(), &*workspace, nullptr);
     QVERIFY(model->settings().autoPaused);
     QVERIFY(!model->settings().lastAppliedSignature);
 }

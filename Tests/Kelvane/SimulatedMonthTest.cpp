@@ -406,7 +406,7 @@ void SimulatedMonthTest::aMonthAddsUp() {
     qputenv("KELVANE_DRY_RUN", dockFile.toLocal8Bit());
     world.clock.set(firstMoment());
     Fakes::Workspace workspace;
-    AppModel model(&workspace, nullptr);
+    AppModel model(world.services(), world.paths(), &workspace, nullptr);
     Profile profile = model.activeProfile();
     profile.pinned = ModelWorld::bundleIDs({u"c"_s});
     profile.excluded.clear();
@@ -499,7 +499,7 @@ void SimulatedMonthTest::aMonthAddsUp() {
     QVERIFY(ledger.pauses > 5);
     QVERIFY(ledger.seconds.size() > 31);
 
-    const UsageStore stored(Paths::usage());
+    const UsageStore stored(world.paths().usage());
     for (QDate day(2026, 3, 1); day <= QDate(2026, 4, 15); day = day.addDays(1)) {
         const QString key = day.toString(Qt::ISODate);
         const DayUsage usage = stored.day(key).value_or(DayUsage());

@@ -16,50 +16,50 @@ class UninstallTest : public QObject {
         int status;
         QString text;
     };
-    static Result run(Fakes::LoginItem& loginItem) {
+    static Result run(Fakes::World& world, Fakes::LoginItem& loginItem) {
         QString text;
         QTextStream output(&text);
-        const int status = Kelvane::Uninstall::run(loginItem, output);
+        const int status = Kelvane::Uninstall::run(loginItem, world.paths(), output);
         output.flush();
         return {status, text};
     }
 
 private Q_SLOTS:
     void theLoginItemIsRemoved() {
-        const Fakes::World world;
+        Fakes::World world;
         Fakes::LoginItem loginItem;
         loginItem.enabled = true;
-        const Result result = run(loginItem);
+        const Result result = run(world, loginItem);
         QCOMPARE(result.status, 0);
         QVERIFY(!loginItem.enabled);
         QVERIFY(result.text.startsWith(u"Kelvane no longer opens at login.\n"_s));
     }
 
     void withoutALoginItemThereIsNothingToRemove() {
-        const Fakes::World world;
+        Fakes::World world;
         Fakes::LoginItem loginItem;
         loginItem.refusal = u"not asked"_s;
-        const Result result = run(loginItem);
+        const Result result = run(world, loginItem);
         QCOMPARE(result.status, 0);
         QVERIFY(result.text.startsWith(u"Kelvane does not open at login.\n"_s));
     }
 
     void aRefusalIsToldWithItsReason() {
-        const Fakes::World world;
+        Fakes::World world;
         Fakes::LoginItem loginItem;
         loginItem.enabled = true;
         loginItem.refusal = u"Operation not permitted"_s;
-        const Result result = run(loginItem);
+        const Result result = run(world, loginItem);
         QCOMPARE(result.status, 1);
         QVERIFY(loginItem.enabled);
         QVERIFY(result.text.startsWith(u"Kelvane still opens at login: Operation not permitted\n"_s));
     }
 
     void whatIsLeftIsNamedAndLeft() {
-        const Fakes::World world;
+        Fakes::World world;
         Fakes::LoginItem loginItem;
-        QVERIFY(run(loginItem).text.contains(DockCore::Paths::support()));
-        QVERIFY(QDir(DockCore::Paths::support()).exists());
+        QVERIFY(run(world, loginItem).text.contains(world.paths().support()));
+        QVERIFY(QDir(world.paths().support()).exists());
     }
 };
 

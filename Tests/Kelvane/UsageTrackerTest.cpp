@@ -40,24 +40,23 @@ struct Desk {
         world.clock.advance(time);
         tracker.sample();
     }
-    double seconds(const RunningApplication& application = mail()) const {
+    double seconds(const RunningApplication& application = mail()) {
         return today().seconds.value(application.bundleID.value_or(QString()));
     }
-    qint64 activations(const RunningApplication& application = mail()) const {
+    qint64 activations(const RunningApplication& application = mail()) {
         return today().activations.value(application.bundleID.value_or(QString()));
     }
-    DockCore::DayUsage today() const {
-        return usage.day(DockCore::UsageStore::dayKey(DockCore::Services::current().clock.now()))
-            .value_or(DockCore::DayUsage());
+    DockCore::DayUsage today() {
+        return usage.day(DockCore::UsageStore::dayKey(world.clock.now())).value_or(DockCore::DayUsage());
     }
-    /// Whether the file was written since the last time somebody asked.
+    /// Whether the file was written since the last call.
     bool wasSaved() const { return QFile::remove(file); }
 
     Fakes::World world;
     QString file = world.directory.filePath(u"usage.json"_s);
     DockCore::UsageStore usage = DockCore::UsageStore(file);
     Fakes::Workspace workspace;
-    UsageTracker tracker = UsageTracker(usage, &workspace);
+    UsageTracker tracker = UsageTracker(usage, world.clock, &workspace);
 };
 
 } // namespace
@@ -319,7 +318,7 @@ void UsageTrackerTest::nothingIsCountedBeforeTheStart() {
     Fakes::World world;
     DockCore::UsageStore usage(world.directory.filePath(u"usage.json"_s));
     Fakes::Workspace workspace;
-    const UsageTracker tracker(usage, &workspace);
+    const UsageTracker tracker(usage, world.clock, &workspace);
     QVERIFY(tracker.isEnabled());
     workspace.activate(mail());
     QVERIFY(!usage.isDirty());
@@ -330,7 +329,7 @@ void UsageTrackerTest::theTimeBeforeTheStartIsNotCredited() {
     DockCore::UsageStore usage(world.directory.filePath(u"usage.json"_s));
     Fakes::Workspace workspace;
     workspace.front = mail();
-    UsageTracker tracker(usage, &workspace);
+    UsageTracker tracker(usage, world.clock, &workspace);
     world.clock.advance(15s);
     tracker.start();
     world.clock.advance(10s);
@@ -434,7 +433,7 @@ void UsageTrackerTest::aTimeZoneThatChangesMovesTheDayAndNoSeconds() {
 void UsageTrackerTest::withoutAWorkspaceNothingIsCredited() {
     Fakes::World world;
     DockCore::UsageStore usage(world.directory.filePath(u"usage.json"_s));
-    UsageTracker tracker(usage, nullptr);
+    UsageTracker tracker(usage, world.clock, nullptr);
     tracker.start();
     for (int tick = 0; tick < 10; ++tick) {
         world.clock.advance(10s);
@@ -464,7 +463,7 @@ void UsageTrackerTest::aWorkspaceOutlivesItsTracker() {
     DockCore::UsageStore usage(world.directory.filePath(u"usage.json"_s));
     Fakes::Workspace workspace;
     {
-        UsageTracker tracker(usage, &workspace);
+        UsageTracker tracker(usage, world.clock, &workspace);
         tracker.start();
         workspace.activate(mail());
     }

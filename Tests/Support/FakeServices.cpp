@@ -135,11 +135,16 @@ void Clock::set(const QDateTime& wall) {
     m_wall = wall;
 }
 
-World::World()
-    : m_scope({preferences, processes, bundles, folders, metadata, clock}) {
+World::World() {
     qunsetenv("KELVANE_HOME");
     qunsetenv("KELVANE_DRY_RUN");
     folders.supportPath = directory.path();
+}
+
+const DockCore::Paths& World::paths() {
+    if (!m_paths)
+        m_paths.emplace(folders);
+    return *m_paths;
 }
 
 QString World::install(const QString& identifier, const QString& name, const QString& folder) {

@@ -1,12 +1,17 @@
 #pragma once
 
+#include "DockCore/AppCatalog.h"
+#include "DockCore/DockStore.h"
 #include "DockCore/Ports/Bundles.h"
 #include "DockCore/Ports/Clock.h"
 #include "DockCore/Ports/Folders.h"
 #include "DockCore/Ports/Metadata.h"
 #include "DockCore/Ports/Preferences.h"
 #include "DockCore/Ports/Processes.h"
+#include "DockCore/ProfileStore.h"
 #include "DockCore/Services.h"
+#include "DockCore/SnapshotStore.h"
+#include "DockCore/Storage/Paths.h"
 
 #include <QMap>
 #include <QSet>
@@ -127,11 +132,19 @@ private:
     std::chrono::nanoseconds m_elapsed = std::chrono::hours(100);
 };
 
-/// All of them, installed for as long as this lives, with a support folder of its own that is deleted afterwards.
-/// The process environment is left without "KELVANE_HOME" and "KELVANE_DRY_RUN".
+/// All of them, with a support folder of its own that is deleted afterwards, and the objects over them that most tests
+/// need. The process environment is left without "KELVANE_HOME" and "KELVANE_DRY_RUN".
 class World {
 public:
     World();
+
+    DockCore::Services services() { return {preferences, processes, bundles, folders, metadata, clock}; }
+    /// Resolved at the first call, so that a test can set the environment before.
+    const DockCore::Paths& paths();
+    DockCore::ProfileStore profileStore() { return DockCore::ProfileStore(paths(), catalog, metadata, clock); }
+    DockCore::SnapshotStore snapshotStore(const QString& folder) {
+        return DockCore::SnapshotStore(folder, dockStore, clock);
+    }
 
     /// Installs an application: bundle, listing of its folder, and gives its path.
     QString install(const QString& identifier, const QString& name,
@@ -146,9 +159,11 @@ public:
     Metadata metadata;
     Clock clock;
     QTemporaryDir directory;
+    DockCore::AppCatalog catalog = DockCore::AppCatalog(bundles, folders);
+    DockCore::DockStore dockStore = DockCore::DockStore(preferences, processes, clock);
 
 private:
-    DockCore::ServicesScope m_scope;
+    std::optional<DockCore::Paths> m_paths;
 };
 
 } // namespace Fakes

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "DockCore/Storage/Paths.h"
 #include "Kelvane/Views/MainWindow.h"
 #include "Support/FakeDesktop.h"
 #include "Support/FakeImages.h"
@@ -26,7 +25,7 @@ public:
     /// Give `apps` to have others than the usual dozen; the first eight are in the Dock.
     explicit WindowWorld(const QList<App>& apps = usualApps()) {
         QAccessible::setActive(true);
-        DockCore::UsageStore usage(DockCore::Paths::usage());
+        DockCore::UsageStore usage(world.paths().usage());
         for (const App& app : apps) {
             world.install(ModelWorld::bundleID(app.name), app.name);
             for (int day = 0; day < app.daysUsed; ++day) {
@@ -36,12 +35,12 @@ public:
                 usage.addActivation(ModelWorld::bundleID(app.name), app.name, moment);
             }
         }
-        usage.save();
+        usage.save(world.clock.now());
         QStringList dock;
         for (const App& app : apps.mid(0, 8))
             dock += app.name;
         world.setDock(dock);
-        model.emplace(nullptr, &login);
+        model.emplace(world.services(), world.paths(), nullptr, &login);
         m_work.emplace(&*model, &Kelvane::AppModel::isWorkingChanged);
         model->captureOriginal();
     }

@@ -1,12 +1,9 @@
 #include "DockCore/Storage/Paths.h"
 
 #include "DockCore/Ports/Folders.h"
-#include "DockCore/Services.h"
 
 #include <QDir>
 #include <QFileInfo>
-
-#include <mutex>
 
 using namespace Qt::StringLiterals;
 
@@ -31,50 +28,40 @@ void make(const QString& folder) {
     QDir().mkdir(folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 }
 
-QString resolved() {
+QString resolved(Folders& folders) {
     // Set but empty is a relative path like any other.
     if (qEnvironmentVariableIsSet("KELVANE_HOME")) {
         const QString home = qEnvironmentVariable("KELVANE_HOME");
         return withoutTrailingSlashes(QDir::isAbsolutePath(home) ? home : joined(QDir::currentPath(), home));
     }
-    const QString applicationSupport = Services::current().folders.applicationSupport();
+    const QString applicationSupport = folders.applicationSupport();
     if (applicationSupport.isEmpty())
         qFatal("There is no folder for application data.");
     return joined(applicationSupport, u"Kelvane"_s);
 }
 } // namespace
 
-QString Paths::support() {
-    static std::mutex lock;
-    static QString folder;
-    static quint64 generation = 0;
-
-    const std::lock_guard guard(lock);
-    if (folder.isEmpty() || generation != Services::generation()) {
-        generation = Services::generation();
-        folder = resolved();
-        make(folder);
-    }
-    return folder;
+Paths::Paths(Folders& folders)
+    : m_support(resolved(folders)) {
+    make(m_support);
 }
 
-QString Paths::usage() {
-    return joined(support(), u"usage.json"_s);
+QString Paths::usage() const {
+    return joined(m_support, u"usage.json"_s);
 }
 
-QString Paths::profiles() {
-    return joined(support(), u"profiles.json"_s);
+QString Paths::profiles() const {
+    return joined(m_support, u"profiles.json"_s);
 }
 
-QString Paths::settings() {
-    return joined(support(), u"settings.json"_s);
+QString Paths::settings() const {
+    return joined(m_support, u"settings.json"_s);
 }
 
-QString Paths::snapshots() {
-    const QString folder = support();
-    const QString snapshots = joined(folder, u"Snapshots"_s);
+QString Paths::snapshots() const {
+    const QString snapshots = joined(m_support, u"Snapshots"_s);
     if (!QFileInfo::exists(snapshots)) {
-        make(folder);
+        make(m_support);
         make(snapshots);
     }
     return snapshots;

@@ -4,17 +4,27 @@
 
 namespace DockCore {
 
-/// Where this application keeps its files. The support folder is resolved and made once per process. Any thread may
-/// ask.
-namespace Paths {
+class Folders;
 
-/// "KELVANE_HOME" when the environment has it, else "Kelvane" in the user's folder for application data.
-QString support();
-QString usage();
-QString profiles();
-QString settings();
-/// Made anew whenever it is missing.
-QString snapshots();
+/// Where this application keeps its files: "KELVANE_HOME" when the environment has it, else "Kelvane" in the user's
+/// folder for application data. The support folder is made by the constructor, the one for snapshots when it is asked
+/// for. A plain value.
+class Paths {
+public:
+    /// Fatal when the computer has no folder for application data.
+    explicit Paths(Folders& folders);
 
-} // namespace Paths
+    const QString& support() const { return m_support; }
+    QString usage() const;
+    QString profiles() const;
+    QString settings() const;
+    /// Made anew whenever it is missing.
+    QString snapshots() const;
+
+    bool operator==(const Paths&) const = default;
+
+private:
+    QString m_support;
+};
+
 } // namespace DockCore

@@ -3,7 +3,6 @@
 #include "DockCore/DockDiff.h"
 #include "DockCore/DockStore.h"
 #include "DockCore/Ports/Clock.h"
-#include "DockCore/Services.h"
 #include "DockCore/Storage/JSONFile.h"
 
 #include <QJsonArray>
@@ -86,7 +85,7 @@ QJsonObject score(const AppScore& score) {
 
 QJsonObject rank(const AppModel& model, UsageWindow window) {
     return {{u"window"_s, days(window)},
-            {u"trackedDays"_s, model.usage().trackedDays(window, Services::current().clock.now())},
+            {u"trackedDays"_s, model.usage().trackedDays(window, model.services().clock.now())},
             {u"ranking"_s, array(model.rankings().value(window), score)}};
 }
 

@@ -74,16 +74,17 @@ void CommandRunner::finish(const Answer& answer) {
         next();
 }
 
-void CommandRunner::whenIdle(std::function<void()> then) {
-    if (!m_model.isWorking())
+void CommandRunner::whenSettled(std::function<void()> then) {
+    if (!m_model.isRefreshing() && !m_model.isWorking())
         return then();
+    // A change of the Dock ends with a refresh.
     connect(
-        &m_model, &AppModel::isWorkingChanged, this, [this, then = std::move(then)] { whenIdle(then); },
+        &m_model, &AppModel::refreshed, this, [this, then = std::move(then)] { whenSettled(then); },
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 void CommandRunner::whenRefreshed(std::function<void()> then) {
-    // Another refresh may overtake this one; its results are at least as fresh.
+    // The results of a refresh that overtakes this one are at least as fresh.
     connect(&m_model, &AppModel::refreshed, this, std::move(then), Qt::SingleShotConnection);
     m_model.refresh();
 }
@@ -98,10 +99,10 @@ void CommandRunner::carryOut(const Job& job) {
     case automatic:
         return adjust(job);
     case restore:
-        return whenIdle([this, job] { this->restore(job); });
+        return whenSettled([this, job] { this->restore(job); });
     case apply:
     case resume:
-        return whenIdle([this, job] { change(job); });
+        return whenSettled([this, job] { change(job); });
     default:
         if (needsRefresh(job.command.verb))
             return whenRefreshed([this, job] { look(job); });
@@ -120,7 +121,7 @@ void CommandRunner::look(const Job& job) {
 
 AppModel::Reply CommandRunner::replyWith(const Job& job) {
     return [this, job](const Outcome& outcome) {
-        // The user was quicker with a change of their own: wait for its end and begin again.
+        // The user's own change or refresh came first: wait for its end and start again.
         if (outcome.refused)
             return carryOut(job);
         Answer answer{.status = outcome.isError ? Answer::failed : Answer::done};
@@ -141,10 +142,10 @@ void CommandRunner::change(const Job& job) {
         return finish(mistaken(*mistake));
     m_model.captureOriginal();
     if (job.command.verb == Command::Verb::resume)
-        return whenRefreshed([this, job] { m_model.resumeAuto(replyWith(job)); });
+        return m_model.refreshAndResume(replyWith(job));
     if (job.command.profile)
         m_model.activate(std::get<Profile>(found).id, AppModel::Apply::no);
-    whenRefreshed([this, job] { m_model.applyActive(AppModel::Notify::always, replyWith(job)); });
+    m_model.refreshAndApply(AppModel::Notify::always, replyWith(job));
 }
 
 void CommandRunner::restore(const Job& job) {

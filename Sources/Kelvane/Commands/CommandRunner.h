@@ -33,7 +33,8 @@ private:
     void next();
     void carryOut(const Job& job);
     void finish(const Answer& answer);
-    void whenIdle(std::function<void()> then);
+    /// Waits until the model neither changes the Dock nor refreshes, so that a command overtakes neither.
+    void whenSettled(std::function<void()> then);
     void whenRefreshed(std::function<void()> then);
     void look(const Job& job);
     void change(const Job& job);

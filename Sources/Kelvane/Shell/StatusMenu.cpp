@@ -55,8 +55,7 @@ void StatusMenu::addProfiles() {
 
 void StatusMenu::addDockCommands() {
     QAction* reorganize = m_menu.addAction(u"Reorganize Dock Now"_s, QKeySequence(Qt::CTRL | Qt::Key_R));
-    connect(reorganize, &QAction::triggered, this,
-            [this] { m_model.refresh([&model = m_model] { model.applyActive(AppModel::Notify::always); }); });
+    connect(reorganize, &QAction::triggered, this, [this] { m_model.refreshAndApply(AppModel::Notify::always); });
     QAction* restore = m_menu.addAction(u"Restore Previous Dock"_s, QKeySequence(Qt::CTRL | Qt::Key_Z));
     restore->setEnabled(m_model.previousSnapshot().has_value());
     connect(restore, &QAction::triggered, this, [this] { m_model.restorePrevious(); });
@@ -66,7 +65,7 @@ void StatusMenu::addPause() {
     m_menu.addSeparator();
     m_menu.addAction(u"Automatic updates paused"_s)->setEnabled(false);
     QAction* resume = m_menu.addAction(u"Resume and Reorganize"_s);
-    connect(resume, &QAction::triggered, this, [this] { m_model.refresh([&model = m_model] { model.resumeAuto(); }); });
+    connect(resume, &QAction::triggered, this, [this] { m_model.refreshAndResume(); });
 }
 
 void StatusMenu::addApplicationCommands() {

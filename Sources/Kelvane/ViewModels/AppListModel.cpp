@@ -1,17 +1,16 @@
 #include "Kelvane/ViewModels/AppListModel.h"
 
-#include "DockCore/AppCatalog.h"
 #include "Kelvane/ViewModels/AppNames.h"
 
 namespace Kelvane {
 
-void AppListModel::setApps(const QStringList& bundleIDs, const DockCore::UsageStore& usage) {
+void AppListModel::setApps(const QStringList& bundleIDs, const AppNames& names) {
     QList<AppListRow> apps;
     for (const QString& bundleID : bundleIDs) {
         AppListRow row;
         row.bundleID = bundleID;
-        row.name = AppNames::name(bundleID, usage);
-        row.isInstalled = DockCore::AppCatalog::shared().isInstalled(bundleID);
+        row.name = names.name(bundleID);
+        row.isInstalled = names.isInstalled(bundleID);
         row.isFirst = apps.isEmpty();
         row.isLast = apps.size() + 1 == bundleIDs.size();
         apps += row;

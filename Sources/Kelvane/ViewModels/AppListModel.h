@@ -4,11 +4,9 @@
 
 #include <QStringList>
 
-namespace DockCore {
-class UsageStore;
-}
-
 namespace Kelvane {
+
+class AppNames;
 
 /// One application of a profile's list.
 struct AppListRow {
@@ -32,7 +30,7 @@ public:
 
     using RowListModel::RowListModel;
 
-    void setApps(const QStringList& bundleIDs, const DockCore::UsageStore& usage);
+    void setApps(const QStringList& bundleIDs, const AppNames& names);
     int count() const { return rowCount(); }
     QHash<int, QByteArray> roleNames() const override;
 

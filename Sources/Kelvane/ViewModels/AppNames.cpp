@@ -2,28 +2,40 @@
 
 #include "DockCore/AppCatalog.h"
 #include "DockCore/UsageStore.h"
+#include "Kelvane/AppModel.h"
 #include "Kelvane/ViewModels/IconAddress.h"
 
-namespace Kelvane::AppNames {
+namespace Kelvane {
 
-QString name(const QString& bundleID, const DockCore::UsageStore& usage) {
-    if (const auto app = DockCore::AppCatalog::shared().info(bundleID))
+AppNames::AppNames(const AppModel& model)
+    : AppNames(model.catalog(), model.usage()) {}
+
+AppNames::AppNames(DockCore::AppCatalog& catalog, const DockCore::UsageStore& usage)
+    : m_catalog(catalog)
+    , m_usage(usage) {}
+
+bool AppNames::isInstalled(const QString& bundleID) const {
+    return m_catalog.isInstalled(bundleID);
+}
+
+QString AppNames::name(const QString& bundleID) const {
+    if (const auto app = m_catalog.info(bundleID))
         return app->name;
-    return usage.name(bundleID).value_or(bundleID);
+    return m_usage.name(bundleID).value_or(bundleID);
 }
 
-QStringList names(const QStringList& bundleIDs, const DockCore::UsageStore& usage) {
+QStringList AppNames::names(const QStringList& bundleIDs) const {
     QStringList result;
     for (const QString& bundleID : bundleIDs)
-        result += name(bundleID, usage);
+        result += name(bundleID);
     return result;
 }
 
-QStringList icons(const QStringList& bundleIDs, const DockCore::UsageStore& usage) {
+QStringList AppNames::icons(const QStringList& bundleIDs) const {
     QStringList result;
     for (const QString& bundleID : bundleIDs)
-        result += IconAddress{bundleID, name(bundleID, usage), {}}.url();
+        result += IconAddress{bundleID, name(bundleID), {}}.url();
     return result;
 }
 
-} // namespace Kelvane::AppNames
+} // namespace Kelvane

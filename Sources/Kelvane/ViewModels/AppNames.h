@@ -4,19 +4,31 @@
 #include <QStringList>
 
 namespace DockCore {
+class AppCatalog;
 class UsageStore;
-}
+} // namespace DockCore
 
 namespace Kelvane {
 
-/// What an application is called on screen, and where its icon comes from. Main thread only.
-namespace AppNames {
+class AppModel;
 
-/// The catalog's name, else the one recorded with its usage, else the identifier itself.
-QString name(const QString& bundleID, const DockCore::UsageStore& usage);
-QStringList names(const QStringList& bundleIDs, const DockCore::UsageStore& usage);
-/// The sources of their icons; the name is what a stand-in takes its initial from.
-QStringList icons(const QStringList& bundleIDs, const DockCore::UsageStore& usage);
+/// The names and icons of applications on screen. References only: as short-lived as the call it is made for. Main
+/// thread only.
+class AppNames {
+public:
+    explicit AppNames(const AppModel& model);
+    AppNames(DockCore::AppCatalog& catalog, const DockCore::UsageStore& usage);
 
-} // namespace AppNames
+    bool isInstalled(const QString& bundleID) const;
+    /// The catalog's name, else the one recorded with its usage, else the identifier itself.
+    QString name(const QString& bundleID) const;
+    QStringList names(const QStringList& bundleIDs) const;
+    /// The sources of their icons; a stand-in takes its initial from the name.
+    QStringList icons(const QStringList& bundleIDs) const;
+
+private:
+    DockCore::AppCatalog& m_catalog;
+    const DockCore::UsageStore& m_usage;
+};
+
 } // namespace Kelvane

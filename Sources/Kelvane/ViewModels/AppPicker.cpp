@@ -1,9 +1,6 @@
 #include "Kelvane/ViewModels/AppPicker.h"
 
-#include "DockCore/AppCatalog.h"
-#include "DockCore/AppInfo.h"
 #include "DockCore/Ports/Folders.h"
-#include "DockCore/Services.h"
 #include "Kelvane/AppModel.h"
 
 #include <QDir>
@@ -25,11 +22,12 @@ AppPicker::AppPicker(AppModel& model, ProfileEditor& editor, QObject* parent)
     reload();
 }
 
-QUrl AppPicker::applicationsFolder() {
-    const QStringList folders = AppCatalog::searchFolders();
+QUrl AppPicker::applicationsFolder() const {
+    Folders& folders = m_model.services().folders;
+    const QStringList searched = AppCatalog::searchFolders(folders);
     const auto used = std::ranges::find_if(
-        folders, [](const QString& folder) { return !Services::current().folders.entries(folder).isEmpty(); });
-    return QUrl::fromLocalFile(used == folders.end() ? folders.constFirst() : *used);
+        searched, [&folders](const QString& folder) { return !folders.entries(folder).isEmpty(); });
+    return QUrl::fromLocalFile(used == searched.end() ? searched.constFirst() : *used);
 }
 
 void AppPicker::setSearch(const QString& search) {
@@ -71,12 +69,11 @@ void AppPicker::addBundle(const QUrl& url) {
     QString path = url.toLocalFile();
     while (path.size() > 1 && path.endsWith(u'/'))
         path.chop(1);
-    const std::optional<AppInfo> app = path.endsWith(u".app"_s) ? AppInfo::fromBundle(path) : std::nullopt;
+    const std::optional<AppInfo> app = m_model.catalog().add(path);
     if (!app) {
         setProblem(u"“"_s + QDir(path).dirName() + u"” is not an app."_s);
         return;
     }
-    AppCatalog::shared().add(*app);
     m_editor.add(m_target, app->bundleID);
     setProblem({});
 }

@@ -27,7 +27,7 @@ public:
     void setSearch(const QString& search);
     QString problem() const { return m_problem; }
     bool isEmpty() const { return m_apps.rowCount() == 0; }
-    static QUrl applicationsFolder();
+    QUrl applicationsFolder() const;
 
     /// Begins anew, without a search, for one of the two lists.
     Q_INVOKABLE void openForPinned() { open(ProfileEditor::PickTarget::pinned); }

@@ -1,8 +1,6 @@
 #include "Kelvane/ViewModels/DockViewModel.h"
 
-#include "DockCore/AppCatalog.h"
 #include "DockCore/Ports/Clock.h"
-#include "DockCore/Services.h"
 #include "Kelvane/AppModel.h"
 #include "Kelvane/ViewModels/DockText.h"
 #include "Kelvane/ViewModels/ViewContext.h"
@@ -14,7 +12,6 @@
 namespace Kelvane {
 
 using namespace Qt::StringLiterals;
-using DockCore::AppCatalog;
 using DockCore::DockTile;
 
 DockViewModel::DockViewModel(AppModel& model, QObject* parent)
@@ -49,8 +46,8 @@ QString DockViewModel::suggestedTitle() const {
 QString DockViewModel::suggestion() const {
     const DockCore::Profile& profile = m_model.activeProfile();
     const QSet<QString> pinned(profile.pinned.begin(), profile.pinned.end());
-    const auto installed = std::count_if(pinned.begin(), pinned.end(), [](const QString& bundleID) {
-        return AppCatalog::shared().isInstalled(bundleID);
+    const auto installed = std::count_if(pinned.begin(), pinned.end(), [this](const QString& bundleID) {
+        return m_model.catalog().isInstalled(bundleID);
     });
     return DockText::suggestion(installed, profile.adaptiveSlots, profile.window);
 }
@@ -61,7 +58,7 @@ QString DockViewModel::emptyText() const {
 
 QString DockViewModel::dataNote() const {
     const DockCore::UsageWindow window = m_model.activeProfile().window;
-    const QDateTime now = DockCore::Services::current().clock.now();
+    const QDateTime now = m_model.services().clock.now();
     return DockText::data(m_model.usage().trackedDays(window, now), window);
 }
 
@@ -96,11 +93,11 @@ void DockViewModel::editProfile() {
 }
 
 void DockViewModel::apply() {
-    m_model.applyActive(AppModel::Notify::always);
+    m_model.refreshAndApply(AppModel::Notify::always);
 }
 
 void DockViewModel::resume() {
-    m_model.resumeAuto();
+    m_model.refreshAndResume();
 }
 
 void DockViewModel::updateTiles() {

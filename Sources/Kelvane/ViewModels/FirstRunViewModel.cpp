@@ -52,7 +52,7 @@ void FirstRunViewModel::reload() {
             row.symbol = shown.symbol;
             row.line = ChoiceListModel::line(profile);
             row.bundleIDs = apps(m_model.plan(profile)).mid(0, iconsPerChoice);
-            row.icons = AppNames::icons(row.bundleIDs, m_model.usage());
+            row.icons = AppNames(m_model).icons(row.bundleIDs);
             row.isChosen = shown.isActive;
             choices += row;
         }
@@ -71,16 +71,16 @@ QStringList FirstRunViewModel::savedApps() const {
 }
 
 QStringList FirstRunViewModel::savedFirstIcons() const {
-    const QStringList icons = AppNames::icons(savedApps(), m_model.usage());
+    const QStringList icons = AppNames(m_model).icons(savedApps());
     return icons.size() > iconsPerRow ? icons.first((icons.size() + 1) / 2) : icons;
 }
 
 QStringList FirstRunViewModel::savedSecondIcons() const {
-    return AppNames::icons(savedApps(), m_model.usage()).mid(savedFirstIcons().size());
+    return AppNames(m_model).icons(savedApps()).mid(savedFirstIcons().size());
 }
 
 QString FirstRunViewModel::savedNames() const {
-    return AppNames::names(savedApps(), m_model.usage()).join(u", "_s);
+    return AppNames(m_model).names(savedApps()).join(u", "_s);
 }
 
 QString FirstRunViewModel::suggestionTitle() const {

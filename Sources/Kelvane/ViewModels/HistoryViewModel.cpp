@@ -1,8 +1,8 @@
 #include "Kelvane/ViewModels/HistoryViewModel.h"
 
 #include "DockCore/Ports/Clock.h"
-#include "DockCore/Services.h"
 #include "Kelvane/AppModel.h"
+#include "Kelvane/ViewModels/AppNames.h"
 
 #include <algorithm>
 
@@ -30,7 +30,7 @@ bool HistoryViewModel::isWorking() const {
 }
 
 void HistoryViewModel::reload() {
-    m_snapshots.setSnapshots(m_model.snapshots(), m_model.current(), m_model.usage(), Services::current().clock.now());
+    m_snapshots.setSnapshots(m_model.snapshots(), m_model.current(), AppNames(m_model), m_model.services().clock.now());
     Q_EMIT changed();
 }
 

@@ -43,8 +43,8 @@ Profile ProfileEditor::profile() const {
 
 void ProfileEditor::reload() {
     const Profile shown = profile();
-    m_pinned.setApps(shown.pinned, m_model.usage());
-    m_excluded.setApps(shown.excluded, m_model.usage());
+    m_pinned.setApps(shown.pinned, AppNames(m_model));
+    m_excluded.setApps(shown.excluded, AppNames(m_model));
     updatePreview();
 }
 
@@ -131,8 +131,7 @@ const ProfileEditor::Removal* ProfileEditor::lastRemoval() const {
 
 QString ProfileEditor::undoText() const {
     const Removal* removal = lastRemoval();
-    return removal == nullptr ? QString()
-                              : u"Undo Remove “"_s + AppNames::name(removal->bundleID, m_model.usage()) + u"”"_s;
+    return removal == nullptr ? QString() : u"Undo Remove “"_s + AppNames(m_model).name(removal->bundleID) + u"”"_s;
 }
 
 AppListModel* ProfileEditor::undoList() {

@@ -1,8 +1,6 @@
 #include "Kelvane/ViewModels/SettingsViewModel.h"
 
 #include "DockCore/Ports/Folders.h"
-#include "DockCore/Services.h"
-#include "DockCore/Storage/Paths.h"
 #include "Kelvane/AppModel.h"
 #include "Kelvane/Ports/Desktop.h"
 #include "Kelvane/ViewModels/ScheduleText.h"
@@ -59,8 +57,8 @@ void SettingsViewModel::setTracksUsage(bool on) {
 }
 
 QString SettingsViewModel::folder() const {
-    const QString folder = Paths::support();
-    const QString home = Services::current().folders.home();
+    const QString folder = m_model.paths().support();
+    const QString home = m_model.services().folders.home();
     return !home.isEmpty() && folder.startsWith(home + u'/') ? u'~' + folder.mid(home.size()) : folder;
 }
 
@@ -69,12 +67,12 @@ QString SettingsViewModel::version() const {
 }
 
 void SettingsViewModel::resume() {
-    m_model.resumeAuto();
+    m_model.refreshAndResume();
 }
 
 void SettingsViewModel::showData() {
-    const QString file = Paths::usage();
-    m_desktop.reveal(QFileInfo::exists(file) ? file : Paths::support());
+    const QString file = m_model.paths().usage();
+    m_desktop.reveal(QFileInfo::exists(file) ? file : m_model.paths().support());
 }
 
 void SettingsViewModel::eraseUsage() {

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace Kelvane {
 
 void SnapshotListModel::setSnapshots(const QList<Snapshot>& snapshots, const QList<DockTile>& current,
-                                     const UsageStore& usage, const QDateTime& now) {
+                                     const AppNames& names, const QDateTime& now) {
     QList<SnapshotRow> list;
     for (const Snapshot& snapshot : snapshots) {
         SnapshotRow row;
@@ -18,9 +18,9 @@ void SnapshotListModel::setSnapshots(const QList<Snapshot>& snapshots, const QLi
         row.caption = SnapshotText::caption(snapshot, now);
         row.description = row.reason + u", "_s + row.caption;
         row.bundleIDs = snapshot.bundleIDs;
-        row.icons = AppNames::icons(snapshot.bundleIDs, usage);
-        row.names = AppNames::names(snapshot.bundleIDs, usage).join(u", "_s);
-        row.changes = SnapshotText::changes(snapshot, current, usage).join(u'\n');
+        row.icons = names.icons(snapshot.bundleIDs);
+        row.names = names.names(snapshot.bundleIDs).join(u", "_s);
+        row.changes = SnapshotText::changes(snapshot, current, names).join(u'\n');
         row.isOriginal = snapshot.isOriginal;
         row.isSameAsNow = SnapshotText::hasSameApps(snapshot, current);
         list += row;

@@ -6,11 +6,9 @@
 
 #include <QDateTime>
 
-namespace DockCore {
-class UsageStore;
-}
-
 namespace Kelvane {
+
+class AppNames;
 
 /// One saved Dock as the history pane shows it.
 struct SnapshotRow {
@@ -53,7 +51,7 @@ public:
     using RowListModel::RowListModel;
 
     void setSnapshots(const QList<DockCore::Snapshot>& snapshots, const QList<DockCore::DockTile>& current,
-                      const DockCore::UsageStore& usage, const QDateTime& now);
+                      const AppNames& names, const QDateTime& now);
     QHash<int, QByteArray> roleNames() const override;
 
 protected:

@@ -29,12 +29,12 @@ QString caption(const Snapshot& snapshot, const QDateTime& now) {
     return DateText::moment(snapshot.date, now) + u" · "_s + QString::number(snapshot.bundleIDs.size()) + u" apps"_s;
 }
 
-QStringList changes(const Snapshot& snapshot, const QList<DockTile>& current, const UsageStore& usage) {
+QStringList changes(const Snapshot& snapshot, const QList<DockTile>& current, const AppNames& names) {
     const DockDiff diff(current, tiles(snapshot.bundleIDs));
     QStringList lines;
-    const auto addLine = [&lines, &usage](const QString& label, const QStringList& bundleIDs) {
+    const auto addLine = [&lines, &names](const QString& label, const QStringList& bundleIDs) {
         if (!bundleIDs.isEmpty())
-            lines += label + AppNames::names(bundleIDs, usage).join(u", "_s);
+            lines += label + names.names(bundleIDs).join(u", "_s);
     };
     addLine(u"Comes back: "_s, diff.added);
     addLine(u"Leaves: "_s, diff.removed);

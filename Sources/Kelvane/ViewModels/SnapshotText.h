@@ -6,11 +6,9 @@
 #include <QString>
 #include <QStringList>
 
-namespace DockCore {
-class UsageStore;
-}
-
 namespace Kelvane {
+
+class AppNames;
 
 /// The sentences about one saved Dock. The same input gives the same text.
 namespace SnapshotText {
@@ -20,7 +18,7 @@ QString caption(const DockCore::Snapshot& snapshot, const QDateTime& now);
 /// What restoring it would do to the Dock of `current`, a line each for what comes back, leaves and moves; one line
 /// says so when nothing would.
 QStringList changes(const DockCore::Snapshot& snapshot, const QList<DockCore::DockTile>& current,
-                    const DockCore::UsageStore& usage);
+                    const AppNames& names);
 /// Whether the applications are those of `current`, in the same order.
 bool hasSameApps(const DockCore::Snapshot& snapshot, const QList<DockCore::DockTile>& current);
 

@@ -1,7 +1,6 @@
 #include "Kelvane/ViewModels/UsageViewModel.h"
 
 #include "DockCore/Ports/Clock.h"
-#include "DockCore/Services.h"
 #include "Kelvane/AppModel.h"
 #include "Kelvane/ViewModels/UsageText.h"
 
@@ -57,7 +56,7 @@ QString UsageViewModel::totalCaption() const {
 
 void UsageViewModel::reload() {
     m_ranking.setRanking(m_model.rankings().value(m_window), m_window);
-    m_days.setDays(m_model.usage(), m_window, Services::current().clock.now());
+    m_days.setDays(m_model.usage(), m_window, m_model.services().clock.now());
     Q_EMIT changed();
 }
 

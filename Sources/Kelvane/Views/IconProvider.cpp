@@ -17,10 +17,10 @@ namespace {
 
 constexpr int usualPixels = 64;
 
-QImage icon(Images& images, const IconAddress& address, int pixels) {
+QImage icon(DockCore::AppCatalog& catalog, Images& images, const IconAddress& address, int pixels) {
     QString path = address.path;
     if (path.isEmpty() && !address.bundleID.isEmpty()) {
-        if (const std::optional<DockCore::AppInfo> app = DockCore::AppCatalog::shared().info(address.bundleID))
+        if (const std::optional<DockCore::AppInfo> app = catalog.info(address.bundleID))
             path = app->path;
     }
     if (!path.isEmpty()) {
@@ -51,8 +51,9 @@ private:
 
 } // namespace
 
-IconProvider::IconProvider(Images& images)
-    : m_images(images) {
+IconProvider::IconProvider(DockCore::AppCatalog& catalog, Images& images)
+    : m_catalog(catalog)
+    , m_images(images) {
     m_pool.setMaxThreadCount(std::max(1, QThread::idealThreadCount() / 2));
 }
 
@@ -66,7 +67,7 @@ QQuickImageResponse* IconProvider::requestImageResponse(const QString& id, const
     const int pixels = requested > 0 ? requested : usualPixels;
     auto* response = new IconResponse;
     m_pool.start([this, response, address, pixels] {
-        response->finish(response->isCancelled() ? QImage() : icon(m_images, address, pixels));
+        response->finish(response->isCancelled() ? QImage() : icon(m_catalog, m_images, address, pixels));
     });
     return response;
 }

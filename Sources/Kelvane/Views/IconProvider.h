@@ -3,6 +3,10 @@
 #include <QQuickAsyncImageProvider>
 #include <QThreadPool>
 
+namespace DockCore {
+class AppCatalog;
+}
+
 namespace Kelvane {
 
 class Images;
@@ -12,14 +16,15 @@ class Images;
 /// own.
 class IconProvider : public QQuickAsyncImageProvider {
 public:
-    /// The images outlive the provider.
-    explicit IconProvider(Images& images);
+    /// Both outlive the provider.
+    IconProvider(DockCore::AppCatalog& catalog, Images& images);
     /// Waits for icons that are being read.
     ~IconProvider() override;
 
     QQuickImageResponse* requestImageResponse(const QString& id, const QSize& requestedSize) override;
 
 private:
+    DockCore::AppCatalog& m_catalog;
     Images& m_images;
     QThreadPool m_pool;
 };

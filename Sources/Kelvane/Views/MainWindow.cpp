@@ -46,7 +46,7 @@ MainWindow::MainWindow(AppModel& model, Desktop& desktop, Images& images)
     // The engine owns them and goes first.
     m_engine->addImageProvider(u"symbol"_s, new SymbolProvider(m_images));
     m_engine->addImageProvider(u"disc"_s, new DiscProvider);
-    m_engine->addImageProvider(u"icon"_s, new IconProvider(m_images));
+    m_engine->addImageProvider(u"icon"_s, new IconProvider(m_context.model.catalog(), m_images));
     m_engine->addImageProvider(u"shadow"_s, new ShadowProvider);
     m_engine->addImportPath(u":/qt/qml"_s);
     m_types = std::make_unique<QQmlComponent>(m_engine.get(), source, QQmlComponent::Asynchronous);
@@ -157,11 +157,11 @@ void MainWindow::make() {
 void MainWindow::remember() const {
     // A window that was opened for pictures says nothing about where its owner wants it.
     if (!m_context.model.isCapturing())
-        WindowFrame::save(m_window->geometry());
+        WindowFrame::save(m_window->geometry(), m_context.model.paths());
 }
 
 void MainWindow::place() {
-    const std::optional<QRect> remembered = WindowFrame::load();
+    const std::optional<QRect> remembered = WindowFrame::load(m_context.model.paths());
     const QScreen* screen = remembered ? QGuiApplication::screenAt(remembered->center()) : nullptr;
     if (screen != nullptr) {
         m_window->setGeometry(QRect(remembered->topLeft(), remembered->size().expandedTo(m_window->minimumSize())));

@@ -20,14 +20,14 @@ std::optional<int> member(const QJsonObject& object, const QString& name) {
     return value && *value >= -farthest && *value <= farthest ? std::optional(static_cast<int>(*value)) : std::nullopt;
 }
 
-} // namespace
-
-QString WindowFrame::file() {
-    return Paths::support() + u"/window.json"_s;
+QString file(const Paths& paths) {
+    return paths.support() + u"/window.json"_s;
 }
 
-std::optional<QRect> WindowFrame::load() {
-    const QJsonObject object = JSONFile::read(file()).value_or(QJsonValue()).toObject();
+} // namespace
+
+std::optional<QRect> WindowFrame::load(const Paths& paths) {
+    const QJsonObject object = JSONFile::read(file(paths)).value_or(QJsonValue()).toObject();
     const std::optional<int> x = member(object, u"x"_s);
     const std::optional<int> y = member(object, u"y"_s);
     const std::optional<int> width = member(object, u"width"_s);
@@ -37,12 +37,12 @@ std::optional<QRect> WindowFrame::load() {
     return QRect(*x, *y, *width, *height);
 }
 
-void WindowFrame::save(const QRect& frame) {
+void WindowFrame::save(const QRect& frame, const Paths& paths) {
     try {
         JSONFile::save(
             QJsonObject{
                 {u"x"_s, frame.x()}, {u"y"_s, frame.y()}, {u"width"_s, frame.width()}, {u"height"_s, frame.height()}},
-            file());
+            file(paths));
     } catch (const Error&) {
     }
 }

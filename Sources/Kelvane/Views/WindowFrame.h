@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QRect>
-#include <QString>
 
 #include <optional>
+
+namespace DockCore {
+class Paths;
+}
 
 namespace Kelvane {
 
@@ -11,10 +14,9 @@ namespace Kelvane {
 /// { "height", "width", "x", "y" }, in points of the desktop. A file that cannot be read counts as none.
 namespace WindowFrame {
 
-std::optional<QRect> load();
+std::optional<QRect> load(const DockCore::Paths& paths);
 /// A failed write is ignored: the window then opens where it opened before.
-void save(const QRect& frame);
-QString file();
+void save(const QRect& frame, const DockCore::Paths& paths);
 
 } // namespace WindowFrame
 } // namespace Kelvane

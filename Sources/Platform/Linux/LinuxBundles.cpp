@@ -1,9 +1,7 @@
 #include "Platform/Linux/LinuxBundles.h"
 
-#include "DockCore/AppCatalog.h"
 #include "DockCore/Error.h"
 #include "DockCore/Storage/JSONFile.h"
-#include "DockCore/Storage/Paths.h"
 #include "DockCore/Storage/PropertyList.h"
 #include "Platform/Linux/LinuxFolders.h"
 
@@ -102,14 +100,6 @@ LinuxBundles::LinuxBundles(std::function<QStringList()> searchFolders, std::func
     , m_memory(std::move(memory)) {}
 
 LinuxBundles::~LinuxBundles() = default;
-
-QStringList LinuxBundles::catalogFolders() {
-    return DockCore::AppCatalog::searchFolders();
-}
-
-QString LinuxBundles::memoryFile() {
-    return DockCore::Paths::support() + u"/bundles.json"_s;
-}
 
 QStringList LinuxBundles::remembered() const {
     const std::optional<QJsonValue> kept = DockCore::JSONFile::read(m_memory());

@@ -18,10 +18,8 @@ namespace Platform {
 /// old identifier. Any thread may call it, several at a time; no lock is held while the disk is read.
 class LinuxBundles final : public DockCore::Bundles {
 public:
-    /// `searchFolders` gives the folders that `path` searches; by default those of the catalog. `memory` names the file
-    /// that keeps what was remembered; by default one in the support folder.
-    explicit LinuxBundles(std::function<QStringList()> searchFolders = catalogFolders,
-                          std::function<QString()> memory = memoryFile);
+    /// `searchFolders` gives the folders that `path` searches, `memory` the file that keeps what was remembered.
+    LinuxBundles(std::function<QStringList()> searchFolders, std::function<QString()> memory);
     ~LinuxBundles() override;
 
     /// From "Contents/Info.plist" of a folder whose name ends in ".app".
@@ -42,8 +40,6 @@ private:
     };
     struct Index;
 
-    static QStringList catalogFolders();
-    static QString memoryFile();
     QStringList remembered() const;
     std::shared_ptr<const Index> currentIndex();
     bool isCurrent(const Index& index);

@@ -1,6 +1,13 @@
 #include "Platform/Linux/LinuxServices.h"
 
-DockCore::Services LinuxServices::platform() {
+#include "DockCore/AppCatalog.h"
+#include "DockCore/Storage/Paths.h"
+
+LinuxServices::LinuxServices()
+    : m_bundles([this] { return DockCore::AppCatalog::searchFolders(m_folders); },
+                [this] { return DockCore::Paths(m_folders).support() + QStringLiteral("/bundles.json"); }) {}
+
+DockCore::Services LinuxServices::services() {
     return {.preferences = m_preferences,
             .processes = m_processes,
             .bundles = m_bundles,

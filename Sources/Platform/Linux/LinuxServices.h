@@ -8,17 +8,17 @@
 #include "Platform/Linux/LinuxPreferences.h"
 #include "Platform/Posix/PosixProcesses.h"
 
-/// This computer, as the logic sees it: owns one adapter a port. `main` makes one, installs `platform()` with a
-/// `ServicesScope` and keeps both to the end. Making it touches no file.
+/// The adapters for the logic, one a port. `main` makes one and keeps it to the end. Making it touches no file.
 class LinuxServices {
 public:
-    DockCore::Services platform();
+    LinuxServices();
+    DockCore::Services services();
 
 private:
     Platform::LinuxPreferences m_preferences;
     Platform::PosixProcesses m_processes;
-    Platform::LinuxBundles m_bundles;
     Platform::LinuxFolders m_folders;
+    Platform::LinuxBundles m_bundles;
     Platform::LinuxMetadata m_metadata;
     Platform::LinuxClock m_clock;
 };

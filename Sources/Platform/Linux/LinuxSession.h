@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DockCore/Services.h"
 #include "Platform/Linux/AutostartLoginItem.h"
 #include "Platform/Linux/LinuxDesktop.h"
 #include "Platform/Linux/LinuxImages.h"
@@ -8,6 +9,9 @@
 /// The application's ports on Linux: owns one adapter a port. Made after the application object, by `main` alone.
 class LinuxSession {
 public:
+    explicit LinuxSession(const DockCore::Services& services)
+        : m_workspace(services.bundles) {}
+
     /// What must be settled before the application object is made: without a display to show itself on the application
     /// runs on without a window, keeps its schedule, and makes its pictures for a dense screen.
     static void prepareEnvironment();

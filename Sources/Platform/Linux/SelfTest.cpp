@@ -4,6 +4,7 @@
 #include "Platform/Linux/LinuxClock.h"
 #include "Platform/Linux/LinuxFolders.h"
 #include "Platform/Linux/LinuxPreferences.h"
+#include "Platform/Linux/LinuxServices.h"
 #include "Platform/Linux/X11Workspace.h"
 #include "Platform/Posix/PosixProcesses.h"
 #include "Platform/SelfTestReport.h"
@@ -47,7 +48,8 @@ void checkMachine(SelfTestReport& report) {
 }
 
 void tellSession(SelfTestReport& report) {
-    Platform::X11Workspace workspace;
+    LinuxServices system;
+    Platform::X11Workspace workspace(system.services().bundles);
     const std::optional<Kelvane::RunningApplication> front = workspace.frontApplication();
     report.add(Verdict::told, u"In front"_s,
                front ? front->bundleID.value_or(front->name.value_or(u"without a name"_s)) : u"nothing"_s);

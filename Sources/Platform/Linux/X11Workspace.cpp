@@ -19,10 +19,10 @@ bool hasDisplay() {
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-Kelvane::RunningApplication application(const X11Window& window) {
+Kelvane::RunningApplication application(const X11Window& window, DockCore::Bundles& bundles) {
     Kelvane::RunningApplication running;
     running.isRegular = window.isOrdinary;
-    if (const auto bundle = window.process ? RunningProcess::application(*window.process) : std::nullopt) {
+    if (const auto bundle = window.process ? RunningProcess::application(*window.process, bundles) : std::nullopt) {
         running.bundleID = bundle->bundleID;
         running.name = bundle->name;
     } else if (!window.name.isEmpty()) {
@@ -33,8 +33,9 @@ Kelvane::RunningApplication application(const X11Window& window) {
 
 } // namespace
 
-X11Workspace::X11Workspace(QObject* parent)
-    : Workspace(parent) {
+X11Workspace::X11Workspace(DockCore::Bundles& bundles, QObject* parent)
+    : Workspace(parent)
+    , m_bundles(bundles) {
     connect(&m_session, &SessionMonitor::paused, this, &Workspace::paused);
     connect(&m_session, &SessionMonitor::resumed, this, &Workspace::resumed);
     connectDisplay();
@@ -48,7 +49,7 @@ std::optional<Kelvane::RunningApplication> X11Workspace::frontApplication() {
     if (!m_display || !m_session.isListening())
         return std::nullopt;
     const auto window = m_display->activeWindow();
-    return window ? std::optional(application(*window)) : std::nullopt;
+    return window ? std::optional(application(*window, m_bundles)) : std::nullopt;
 }
 
 std::optional<std::chrono::duration<double>> X11Workspace::sinceLastInput() {
@@ -114,7 +115,7 @@ void X11Workspace::announceFront() {
     m_frontWindow = window->id;
     m_frontProcess = window->process;
     if (!isSame && m_session.isListening())
-        Q_EMIT activated(application(*window));
+        Q_EMIT activated(application(*window, m_bundles));
 }
 
 } // namespace Platform

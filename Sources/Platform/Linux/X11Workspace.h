@@ -7,6 +7,10 @@
 
 #include <memory>
 
+namespace DockCore {
+class Bundles;
+}
+
 namespace Platform {
 
 class X11Display;
@@ -17,7 +21,8 @@ class X11Workspace : public Kelvane::Workspace {
     Q_OBJECT
 
 public:
-    explicit X11Workspace(QObject* parent = nullptr);
+    /// `bundles` names the application of a process; it outlives the workspace.
+    explicit X11Workspace(DockCore::Bundles& bundles, QObject* parent = nullptr);
     ~X11Workspace() override;
 
     std::optional<Kelvane::RunningApplication> frontApplication() override;
@@ -29,6 +34,7 @@ private:
     void dropDisplay();
     void announceFront();
 
+    DockCore::Bundles& m_bundles;
     SessionMonitor m_session;
     std::unique_ptr<X11Display> m_display;
     QElapsedTimer m_lastAttempt;

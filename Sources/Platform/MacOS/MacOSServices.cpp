@@ -1,6 +1,6 @@
 #include "Platform/MacOS/MacOSServices.h"
 
-DockCore::Services MacOSServices::platform() {
+DockCore::Services MacOSServices::services() {
     return {.preferences = m_preferences,
             .processes = m_processes,
             .bundles = m_bundles,

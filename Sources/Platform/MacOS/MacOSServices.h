@@ -8,11 +8,11 @@
 #include "Platform/MacOS/MacOSPreferences.h"
 #include "Platform/Posix/PosixProcesses.h"
 
-/// This Mac, as the logic sees it: owns one adapter a port. `main` makes one, installs `platform()` with a
-/// `ServicesScope` and keeps both to the end. Making it asks the system for nothing.
+/// The adapters for the logic, one a port. `main` makes one and keeps it to the end. Making it asks the system for
+/// nothing.
 class MacOSServices {
 public:
-    DockCore::Services platform();
+    DockCore::Services services();
 
 private:
     Platform::MacOSPreferences m_preferences;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DockCore/Services.h"
 #include "Platform/MacOS/MacOSDesktop.h"
 #include "Platform/MacOS/MacOSImages.h"
 #include "Platform/MacOS/MacOSLoginItem.h"
@@ -8,6 +9,8 @@
 /// The application's ports on macOS: owns one adapter a port. Made after the application object, by `main` alone.
 class MacOSSession {
 public:
+    explicit MacOSSession(const DockCore::Services&) {}
+
     /// What must be settled before the application object is made: a start brings nothing to the front, as for one at
     /// login. The window does, when it is shown.
     static void prepareEnvironment() { qputenv("QT_MAC_DISABLE_FOREGROUND_APPLICATION_TRANSFORM", "1"); }

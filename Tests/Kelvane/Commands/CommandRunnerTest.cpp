@@ -23,7 +23,7 @@ class CommandRunnerTest : public QObject {
 private Q_SLOTS:
     void init() {
         world.emplace();
-        model.emplace(nullptr, nullptr);
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         pinActive(*model, {u"c"_s, u"a"_s});
         runner.emplace(*model);
     }
@@ -66,7 +66,7 @@ private:
     /// A dry run with ten minutes of c behind it and two days on which the computer saw d opened, after an apply.
     void useAndApply();
     /// Leaves e alone in the Dock.
-    static void changeByHand();
+    void changeByHand();
     QString dryRunPath() const { return world->directory.filePath(u"dock.plist"_s); }
     Answer run(const QString& line, Colour colour = Colour::none) {
         const Command command = std::get<Command>(parseCommand(line.split(u' ')));
@@ -320,12 +320,12 @@ void CommandRunnerTest::rankTakesTheWindowOfTheActiveProfile() {
 void CommandRunnerTest::useAndApply() {
     qputenv("KELVANE_DRY_RUN", QFile::encodeName(dryRunPath()));
     world->opened(u"/Applications/d.app"_s, {world->clock.now().addDays(-1), world->clock.now().addDays(-2)});
-    UsageStore usage(Paths::usage());
+    UsageStore usage(world->paths().usage());
     usage.addSeconds(600, ModelWorld::bundleID(u"c"_s), u"c"_s, world->clock.now());
     usage.addActivation(ModelWorld::bundleID(u"c"_s), u"c"_s, world->clock.now());
-    usage.save();
+    usage.save(world->clock.now());
     runner.reset();
-    model.emplace(nullptr, nullptr);
+    model.emplace(world->services(), world->paths(), nullptr, nullptr);
     pinActive(*model, {u"c"_s, u"a"_s});
     runner.emplace(*model);
     world->clock.advance(1min);
@@ -334,7 +334,7 @@ void CommandRunnerTest::useAndApply() {
 }
 
 void CommandRunnerTest::changeByHand() {
-    DockStore::write({DockTile::app({ModelWorld::bundleID(u"e"_s), u"e"_s, u"/Applications/e.app"_s})});
+    world->dockStore.write({DockTile::app({ModelWorld::bundleID(u"e"_s), u"e"_s, u"/Applications/e.app"_s})});
 }
 
 void CommandRunnerTest::everyDocumentIsWhole_data() {

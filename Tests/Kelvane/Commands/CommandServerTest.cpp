@@ -21,7 +21,7 @@ class CommandServerTest : public QObject {
 private Q_SLOTS:
     void init() {
         world.emplace();
-        model.emplace(nullptr, nullptr);
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         runner.emplace(*model);
         path = directory.path() + u"/socket"_s;
         user = QFileInfo(directory.path()).ownerId();

@@ -19,7 +19,7 @@ class StatusMenuTest : public QObject {
 private Q_SLOTS:
     void init() {
         world.emplace();
-        model.emplace(nullptr, nullptr);
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         pinActive(*model, {u"c"_s, u"a"_s});
         symbols.clear();
         menu = std::make_unique<StatusMenu>(*model, [this](const QString& name) {

@@ -52,7 +52,7 @@ private:
 
     QTemporaryDir m_folder;
     ModelWorld m_world = ModelWorld(QStringList());
-    AppModel m_model = AppModel(nullptr, nullptr);
+    AppModel m_model = AppModel(m_world.services(), m_world.paths(), nullptr, nullptr);
     Fakes::Desktop m_desktop;
     Fakes::Images m_images;
 };

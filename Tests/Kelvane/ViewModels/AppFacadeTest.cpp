@@ -16,7 +16,7 @@ class AppFacadeTest : public QObject {
 private Q_SLOTS:
     void init() {
         world.emplace(QStringList{u"a"_s});
-        model.emplace(nullptr, nullptr);
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         facade.emplace(*model);
     }
     void cleanup() {

@@ -19,11 +19,11 @@ private Q_SLOTS:
     void init() {
         world.emplace();
         world->install(u"org.example.resume"_s, u"Résumé Builder"_s);
-        UsageStore usage(Paths::usage());
+        UsageStore usage(world->paths().usage());
         usage.addSeconds(600, ModelWorld::bundleID(u"d"_s), {}, world->clock.now());
         usage.addSeconds(1200, ModelWorld::bundleID(u"b"_s), {}, world->clock.now());
-        usage.save();
-        model.emplace(nullptr, nullptr);
+        usage.save(world->clock.now());
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         pinActive(*model, {u"a"_s, u"b"_s});
         QVERIFY(refreshAndWait(*model));
         editor.emplace(*model);
@@ -108,11 +108,11 @@ private Q_SLOTS:
     void anyBundleCanBeChosen() {
         picker->openForPinned();
         // A profile from elsewhere may have named it before it was there.
-        QVERIFY(!AppCatalog::shared().isInstalled(u"org.example.odd"_s));
+        QVERIFY(!model->catalog().isInstalled(u"org.example.odd"_s));
         world->bundles.add(u"/Users/x/Tools/Odd.app"_s, u"org.example.odd"_s, u"Odd"_s);
         picker->addBundle(QUrl(u"file:///Users/x/Tools/Odd.app/"_s));
         QCOMPARE(model->activeProfile().pinned.last(), u"org.example.odd"_s);
-        QVERIFY(AppCatalog::shared().isInstalled(u"org.example.odd"_s));
+        QVERIFY(model->catalog().isInstalled(u"org.example.odd"_s));
         QCOMPARE(world->bundles.remembered, QStringList{u"/Users/x/Tools/Odd.app"_s});
         QCOMPARE(picker->problem(), QString());
     }
@@ -137,11 +137,11 @@ private Q_SLOTS:
     }
 
     void thePanelBeginsAtTheApplications() {
-        QCOMPARE(AppPicker::applicationsFolder().toLocalFile(), u"/Applications"_s);
+        QCOMPARE(picker->applicationsFolder().toLocalFile(), u"/Applications"_s);
         world->folders.listing.clear();
-        QCOMPARE(AppPicker::applicationsFolder().toLocalFile(), u"/Applications"_s);
+        QCOMPARE(picker->applicationsFolder().toLocalFile(), u"/Applications"_s);
         world->folders.listing.insert(u"/Users/x/Applications"_s, {u"/Users/x/Applications/Mail.app"_s});
-        QCOMPARE(AppPicker::applicationsFolder().toLocalFile(), u"/Users/x/Applications"_s);
+        QCOMPARE(picker->applicationsFolder().toLocalFile(), u"/Users/x/Applications"_s);
     }
 
 private:

@@ -21,7 +21,7 @@ private Q_SLOTS:
     }
     void init() {
         world.emplace(QStringList{u"a"_s, u"b"_s, u"c"_s});
-        model.emplace(nullptr, nullptr);
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         pinActive(*model, {u"b"_s, u"a"_s, u"d"_s});
         pane.emplace(*model);
         QVERIFY(refreshAndWait(*model));
@@ -92,7 +92,7 @@ private Q_SLOTS:
         Gate gate;
         world->holdRestarts(gate);
         pane->apply();
-        QVERIFY(model->isWorking());
+        QTRY_VERIFY(model->isWorking());
         pane->apply();
         gate.open();
         QVERIFY(waitForChange(*model));

@@ -16,7 +16,7 @@ class FirstRunViewModelTest : public QObject {
 private Q_SLOTS:
     void init() {
         world.emplace();
-        model.emplace(nullptr, &login);
+        model.emplace(world->services(), world->paths(), nullptr, &login);
         model->captureOriginal();
         flow.emplace(*model);
         tester = std::make_unique<QAbstractItemModelTester>(flow->choices(),
@@ -51,7 +51,7 @@ private Q_SLOTS:
     void choosingActivatesAndLeavesTheDock() {
         QSignalSpy spy(&*model, &AppModel::proposalChanged);
         flow->choose(uuidString(model->profiles()[2].id));
-        QCOMPARE(ProfileStore().settings.activeProfileID, std::optional(model->profiles()[2].id));
+        QCOMPARE(world->profileStore().settings.activeProfileID, std::optional(model->profiles()[2].id));
         QVERIFY(flow->choices()->rows()[2].isChosen);
         QVERIFY(!flow->choices()->rows()[0].isChosen);
         QVERIFY(spy.count() > 0);
@@ -101,7 +101,7 @@ private Q_SLOTS:
         for (int i = 0; i < apps; ++i)
             words += u"app%1"_s.arg(i);
         ModelWorld other(words);
-        AppModel fresh(nullptr, nullptr);
+        AppModel fresh(other.services(), other.paths(), nullptr, nullptr);
         fresh.captureOriginal();
         const FirstRunViewModel run(fresh);
         QTEST(static_cast<int>(run.savedFirstIcons().size()), "first");
@@ -126,7 +126,7 @@ private Q_SLOTS:
     void applyingEndsTheFlowAndWritesTheDock() {
         pinActive(*model, {u"c"_s, u"b"_s});
         flow->applyToDock();
-        QVERIFY(ProfileStore().settings.onboarded);
+        QVERIFY(world->profileStore().settings.onboarded);
         QVERIFY(waitForChange(*model));
         QCOMPARE(world->dock(), QStringList({u"c"_s, u"b"_s}));
         QCOMPARE(model->toast()->text, u"Dock updated for Work."_s);
@@ -151,7 +151,7 @@ private Q_SLOTS:
     void notNowEndsTheFlowAndLeavesTheDock() {
         pinActive(*model, {u"c"_s});
         flow->notNow();
-        QVERIFY(ProfileStore().settings.onboarded);
+        QVERIFY(world->profileStore().settings.onboarded);
         QVERIFY(!model->isWorking());
         QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
         QCOMPARE(flow->choices()->rowCount(), 0);
@@ -161,7 +161,7 @@ private Q_SLOTS:
         flow->advance();
         flow->choose(uuidString(model->profiles()[1].id));
         flow->setScheduleIndex(1);
-        QVERIFY(!ProfileStore().settings.onboarded);
+        QVERIFY(!world->profileStore().settings.onboarded);
     }
 
     void untilTheFlowIsDoneNothingIsApplied() {
@@ -174,7 +174,7 @@ private Q_SLOTS:
 
     void scheduleAndLoginAreSetAtOnce() {
         flow->setScheduleIndex(1);
-        QCOMPARE(ProfileStore().settings.autoUpdate, AutoUpdate::hourly);
+        QCOMPARE(world->profileStore().settings.autoUpdate, AutoUpdate::hourly);
         QCOMPARE(flow->scheduleIndex(), 1);
         flow->setOpensAtLogin(true);
         QVERIFY(login.enabled);

@@ -22,7 +22,7 @@ private Q_SLOTS:
     }
     void init() {
         world.emplace(QStringList{u"a"_s, u"b"_s});
-        model.emplace(nullptr, nullptr);
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         model->captureOriginal();
         pinActive(*model, {u"c"_s, u"a"_s});
         pane.emplace(*model);
@@ -50,9 +50,10 @@ private Q_SLOTS:
 
     void oneAppIsStillCalledApps() {
         world->setDock({u"a"_s});
-        model->snapshotStore().capture(u"Before Work"_s, SnapshotStore::Mark::ordinary);
-        model->removeSnapshot({});
-        QVERIFY(rows().at(0).caption.endsWith(u"· 1 apps"_s));
+        capture();
+        AppModel fresh(world->services(), world->paths(), nullptr, nullptr);
+        HistoryViewModel other(fresh);
+        QVERIFY(other.snapshots()->rows().at(0).caption.endsWith(u"· 1 apps"_s));
     }
 
     void theNewestComesFirst() {
@@ -75,13 +76,12 @@ private Q_SLOTS:
     }
 
     void namesOfWhatIsGoneComeFromItsUsage() {
-        UsageStore usage(Paths::usage());
+        UsageStore usage(world->paths().usage());
         usage.addSeconds(10, u"org.example.gone"_s, u"Gone"_s, world->clock.now());
-        usage.save();
+        usage.save(world->clock.now());
         world->setDock({u"gone"_s, u"a"_s});
-        AppModel fresh(nullptr, nullptr);
-        fresh.snapshotStore().capture(u"Before Work"_s, SnapshotStore::Mark::ordinary);
-        fresh.removeSnapshot({});
+        capture();
+        AppModel fresh(world->services(), world->paths(), nullptr, nullptr);
         HistoryViewModel other(fresh);
         QCOMPARE(other.snapshots()->rows().at(0).names, u"Gone, a"_s);
     }
@@ -111,8 +111,8 @@ private Q_SLOTS:
         QCOMPARE(rows().size(), 1);
         QCOMPARE(world->preferences.saves, saves);
         QCOMPARE(world->dock(), QStringList({u"c"_s, u"a"_s}));
-        QVERIFY(!QFile::exists(Paths::snapshots() + u'/' + id + u".plist"_s));
-        QCOMPARE(SnapshotStore(Paths::snapshots()).all().size(), 1);
+        QVERIFY(!QFile::exists(world->paths().snapshots() + u'/' + id + u".plist"_s));
+        QCOMPARE(world->snapshotStore(world->paths().snapshots()).all().size(), 1);
     }
 
     void theOriginalCannotBeDeleted() {
@@ -129,7 +129,7 @@ private Q_SLOTS:
 
     void withoutSnapshotsThePaneIsEmpty() {
         ModelWorld bare;
-        AppModel fresh(nullptr, nullptr);
+        AppModel fresh(bare.services(), bare.paths(), nullptr, nullptr);
         HistoryViewModel other(fresh);
         QVERIFY(other.isEmpty());
         QVERIFY(!other.hasPrevious());
@@ -137,6 +137,9 @@ private Q_SLOTS:
 
 private:
     QList<SnapshotRow> rows() { return pane->snapshots()->rows(); }
+    void capture() {
+        world->snapshotStore(world->paths().snapshots()).capture(u"Before Work"_s, SnapshotStore::Mark::ordinary);
+    }
     void apply() {
         model->applyActive(AppModel::Notify::failuresOnly);
         QVERIFY(waitForChange(*model));

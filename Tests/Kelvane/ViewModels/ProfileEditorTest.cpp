@@ -19,7 +19,7 @@ class ProfileEditorTest : public QObject {
 private Q_SLOTS:
     void init() {
         world.emplace();
-        model.emplace(nullptr, nullptr);
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         pinActive(*model, {u"a"_s, u"b"_s, u"c"_s});
         editor.emplace(*model);
         testers.emplace_back(std::make_unique<QAbstractItemModelTester>(
@@ -39,7 +39,7 @@ private Q_SLOTS:
         editor->setSymbol(u"book"_s);
         editor->setUsageSlots(5);
         editor->setWindowIndex(1);
-        const ProfileStore stored;
+        const ProfileStore stored = world->profileStore();
         QCOMPARE(stored.active().name, u"Focus"_s);
         QCOMPARE(stored.active().symbol, u"book"_s);
         QCOMPARE(stored.active().adaptiveSlots, 5);
@@ -61,7 +61,7 @@ private Q_SLOTS:
         QSignalSpy spy(&*model, &AppModel::proposalChanged);
         editor->add(ProfileEditor::PickTarget::pinned, ModelWorld::bundleID(u"e"_s));
         editor->setName(u"Other"_s);
-        QCOMPARE(ProfileStore().profiles.last().pinned, ModelWorld::bundleIDs({u"e"_s}));
+        QCOMPARE(world->profileStore().profiles.last().pinned, ModelWorld::bundleIDs({u"e"_s}));
         QCOMPARE(spy.count(), 0);
         QCOMPARE(model->proposal(), suggestion);
         QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
@@ -205,10 +205,10 @@ private Q_SLOTS:
     }
 
     void anUninstalledApplicationHasTheNameOfItsUsage() {
-        UsageStore usage(Paths::usage());
+        UsageStore usage(world->paths().usage());
         usage.addSeconds(10, u"org.example.gone"_s, u"Gone"_s, world->clock.now());
-        usage.save();
-        AppModel fresh(nullptr, nullptr);
+        usage.save(world->clock.now());
+        AppModel fresh(world->services(), world->paths(), nullptr, nullptr);
         pinActive(fresh, {u"gone"_s});
         ProfileEditor other(fresh);
         QCOMPARE(other.pinned()->rows()[0].name, u"Gone"_s);
@@ -231,7 +231,7 @@ private Q_SLOTS:
         QVERIFY(!editor->isActive());
         editor->makeActive();
         QVERIFY(editor->isActive());
-        QCOMPARE(ProfileStore().settings.activeProfileID, std::optional(other.id));
+        QCOMPARE(world->profileStore().settings.activeProfileID, std::optional(other.id));
         QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
         QVERIFY(!model->isWorking());
     }

@@ -16,7 +16,7 @@ class ProfilesViewModelTest : public QObject {
 private Q_SLOTS:
     void init() {
         world.emplace();
-        model.emplace(nullptr, nullptr);
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         pane.emplace(*model);
         tester = std::make_unique<QAbstractItemModelTester>(pane->profiles(),
                                                             QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -41,7 +41,7 @@ private Q_SLOTS:
         QCOMPARE(pane->editor()->name(), u"New Profile"_s);
         QCOMPARE(pane->selectedRow(), static_cast<int>(model->profiles().size()) - 1);
         QVERIFY(!pane->editor()->isActive());
-        QCOMPARE(ProfileStore().profiles.last().name, u"New Profile"_s);
+        QCOMPARE(world->profileStore().profiles.last().name, u"New Profile"_s);
     }
 
     void aDuplicateIsSelected() {
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QCOMPARE(rows[2].name + u'/' + rows[2].ordinal, u"Untitled/"_s);
         QCOMPARE(rows[3].name + u'/' + rows[3].ordinal, u"Untitled/2"_s);
         // What is stored stays as typed.
-        QCOMPARE(ProfileStore().profiles[2].name, QString());
+        QCOMPARE(world->profileStore().profiles[2].name, QString());
     }
 
     void unknownProfilesAreNotSelected() {

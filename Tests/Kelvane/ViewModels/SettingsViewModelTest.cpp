@@ -19,7 +19,7 @@ class SettingsViewModelTest : public QObject {
 private Q_SLOTS:
     void init() {
         world.emplace();
-        model.emplace(nullptr, &login);
+        model.emplace(world->services(), world->paths(), nullptr, &login);
         pane.emplace(*model, desktop);
     }
     void cleanup() {
@@ -48,7 +48,7 @@ private Q_SLOTS:
     void schedule() {
         QFETCH(int, index);
         pane->setScheduleIndex(index);
-        QTEST(static_cast<int>(ProfileStore().settings.autoUpdate), "seconds");
+        QTEST(static_cast<int>(world->profileStore().settings.autoUpdate), "seconds");
     }
 
     void thePauseIsShownAndResumed() {
@@ -61,8 +61,7 @@ private Q_SLOTS:
         QVERIFY(pane->isPaused());
         QVERIFY(spy.count() > 0);
         pane->resume();
-        QVERIFY(!pane->isPaused());
-        QVERIFY(waitForChange(*model));
+        QTRY_VERIFY(!pane->isPaused() && !model->isWorking());
         QCOMPARE(world->dock(), QStringList({u"b"_s, u"a"_s}));
     }
 
@@ -93,20 +92,20 @@ private Q_SLOTS:
         pane->setTracksUsage(false);
         QVERIFY(!pane->tracksUsage());
         QVERIFY(!model->tracker().isEnabled());
-        QVERIFY(!ProfileStore().settings.trackingEnabled);
+        QVERIFY(!world->profileStore().settings.trackingEnabled);
     }
 
     void theUsageFileIsRevealed() {
-        UsageStore usage(Paths::usage());
+        UsageStore usage(world->paths().usage());
         usage.addSeconds(1, u"a"_s, {}, world->clock.now());
-        usage.save();
+        usage.save(world->clock.now());
         pane->showData();
-        QCOMPARE(desktop.revealed, QStringList{Paths::usage()});
+        QCOMPARE(desktop.revealed, QStringList{world->paths().usage()});
     }
 
     void withoutAUsageFileItsFolderIsRevealed() {
         pane->showData();
-        QCOMPARE(desktop.revealed, QStringList{Paths::support()});
+        QCOMPARE(desktop.revealed, QStringList{world->paths().support()});
     }
 
     void theHomeFolderIsWrittenShort() {
@@ -117,17 +116,17 @@ private Q_SLOTS:
     }
 
     void erasingKeepsProfilesAndSnapshots() {
-        UsageStore usage(Paths::usage());
+        UsageStore usage(world->paths().usage());
         usage.addSeconds(600, ModelWorld::bundleID(u"a"_s), {}, world->clock.now());
-        usage.save();
-        AppModel other(nullptr, nullptr);
+        usage.save(world->clock.now());
+        AppModel other(world->services(), world->paths(), nullptr, nullptr);
         other.captureOriginal();
         SettingsViewModel settings(other, desktop);
         const QList<Profile> profiles = other.profiles();
         QSignalSpy spy(&other, &AppModel::refreshed);
         settings.eraseUsage();
         QCOMPARE(other.toast()->text, u"Usage history erased."_s);
-        QVERIFY(!QFile::exists(Paths::usage()));
+        QVERIFY(!QFile::exists(world->paths().usage()));
         QVERIFY(spy.wait());
         QCOMPARE(other.profiles(), profiles);
         QCOMPARE(other.snapshots().size(), 1);

@@ -102,13 +102,13 @@ private Q_SLOTS:
     }
 
     void fiveHundredRowsAreListed() {
-        UsageStore usage(Paths::usage());
+        UsageStore usage(world->paths().usage());
         for (int i = 0; i < 500; ++i) {
             const QString word = u"app%1"_s.arg(i, 3, 10, QChar(u'0'));
             world->install(ModelWorld::bundleID(word), word);
             usage.addSeconds(60 * (500 - i), ModelWorld::bundleID(word), word, world->clock.now());
         }
-        usage.save();
+        usage.save(world->clock.now());
         open();
         QCOMPARE(pane->ranking()->rowCount(), 500);
         QCOMPARE(pane->ranking()->rows()[0].name, u"app000"_s);
@@ -117,12 +117,12 @@ private Q_SLOTS:
 
 private:
     void track(const QString& word, double seconds, int daysAgo) {
-        UsageStore usage(Paths::usage());
+        UsageStore usage(world->paths().usage());
         usage.addSeconds(seconds, ModelWorld::bundleID(word), word, world->clock.now().addDays(-daysAgo));
-        usage.save();
+        usage.save(world->clock.now());
     }
     void open() {
-        model.emplace(nullptr, nullptr);
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         pane.emplace(*model);
         const QAbstractItemModelTester ranking(pane->ranking(), QAbstractItemModelTester::FailureReportingMode::QtTest);
         const QAbstractItemModelTester days(pane->days(), QAbstractItemModelTester::FailureReportingMode::QtTest);

@@ -142,13 +142,13 @@ private Q_SLOTS:
 
     void theFrameIsRememberedAndNeverTooSmall() {
         WindowWorld mac;
-        WindowFrame::save(QRect(40, 30, 900, 600));
+        WindowFrame::save(QRect(40, 30, 900, 600), mac.world.paths());
         mac.open(Pane::dock);
         QCOMPARE(mac.quick()->size(), QSize(900, 600));
         mac.quick()->resize(870, 590);
         mac.window->close();
-        QCOMPARE(WindowFrame::load()->size(), QSize(870, 590));
-        WindowFrame::save(QRect(40, 30, 100, 50));
+        QCOMPARE(WindowFrame::load(mac.world.paths())->size(), QSize(870, 590));
+        WindowFrame::save(QRect(40, 30, 100, 50), mac.world.paths());
         mac.window.reset();
         mac.show();
         QCOMPARE(mac.quick()->size(), QSize(860, 580));
@@ -167,11 +167,11 @@ private Q_SLOTS:
     void aFrameThatMakesNoSenseCountsAsNone() {
         QFETCH(QByteArray, content);
         World world;
-        QFile file(WindowFrame::file());
+        QFile file(world.paths().support() + u"/window.json"_s);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(content);
         file.close();
-        QVERIFY(!WindowFrame::load());
+        QVERIFY(!WindowFrame::load(world.paths()));
     }
 
     void aWindowThatIsNotThereGivesNoPicture() {

@@ -24,17 +24,17 @@ private Q_SLOTS:
         QVERIFY(mac->find(u"Where should we start?"_s) != nullptr);
         const Profile other = mac->model->profiles()[2];
         mac->click(other.name);
-        QCOMPARE(ProfileStore().settings.activeProfileID, std::optional(other.id));
+        QCOMPARE(mac->world.profileStore().settings.activeProfileID, std::optional(other.id));
         mac->click(u"Work"_s);
         next(u"Continue"_s);
         QVERIFY(mac->find(u"Your Dock is safe"_s) != nullptr);
         mac->click(u"Open at login (recommended, so usage is counted)"_s);
         QVERIFY(mac->login.enabled);
-        QVERIFY(!ProfileStore().settings.onboarded);
+        QVERIFY(!mac->world.profileStore().settings.onboarded);
         mac->click(u"Apply to My Dock"_s);
         QVERIFY(mac->waitForChange());
         QCOMPARE(mac->world.dock(), QStringList({u"Books"_s, u"Chess"_s}));
-        QVERIFY(ProfileStore().settings.onboarded);
+        QVERIFY(mac->world.profileStore().settings.onboarded);
         QTRY_VERIFY(mac->find(u"Your Dock"_s) != nullptr);
     }
 
@@ -49,7 +49,7 @@ private Q_SLOTS:
         next(u"Continue"_s);
         next(u"Continue"_s);
         mac->click(u"Not Now"_s);
-        QVERIFY(ProfileStore().settings.onboarded);
+        QVERIFY(mac->world.profileStore().settings.onboarded);
         QCOMPARE(mac->world.dock(), before);
         QVERIFY(!mac->model->isWorking());
     }
@@ -57,7 +57,7 @@ private Q_SLOTS:
     void closingInTheMiddleComesBackAtTheNextLaunch() {
         next(u"Continue"_s);
         mac->window->close();
-        QVERIFY(!ProfileStore().settings.onboarded);
+        QVERIFY(!mac->world.profileStore().settings.onboarded);
     }
 
     void theKeyboardAloneIsEnough() {

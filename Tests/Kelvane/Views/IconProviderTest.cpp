@@ -3,6 +3,7 @@
 #include "Kelvane/ViewModels/IconAddress.h"
 #include "Kelvane/Views/StandInIcon.h"
 #include "Support/FakeImages.h"
+#include "Support/FakeServices.h"
 
 #include <QGuiApplication>
 #include <QQuickTextureFactory>
@@ -32,11 +33,12 @@ private Q_SLOTS:
     }
 
 private:
+    Fakes::World m_world;
     const IconAddress m_mail = {u"org.example.mail"_s, u"Mail"_s, u"/Applications/Mail.app"_s};
 
     /// What QML gets, 28 pixels wide.
-    static QImage request(Fakes::Images& images, const IconAddress& address) {
-        IconProvider provider(images);
+    QImage request(Fakes::Images& images, const IconAddress& address) {
+        IconProvider provider(m_world.catalog, images);
         const std::unique_ptr<QQuickImageResponse> response(
             provider.requestImageResponse(address.url().section(u'/', 3), QSize(28, 28)));
         QSignalSpy finished(response.get(), &QQuickImageResponse::finished);

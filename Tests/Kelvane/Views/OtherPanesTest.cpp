@@ -94,7 +94,7 @@ private Q_SLOTS:
         mac->click(u"Open at login"_s);
         QVERIFY(mac->login.enabled);
         mac->click(u"Track app usage"_s);
-        QVERIFY(!ProfileStore().settings.trackingEnabled);
+        QVERIFY(!mac->world.profileStore().settings.trackingEnabled);
         mac->login.refusal = u"No."_s;
         mac->click(u"Open at login"_s);
         QVERIFY(mac->find(u"Open at login"_s)->property("checked").toBool());
@@ -104,7 +104,7 @@ private Q_SLOTS:
         mac->open(Pane::settings);
         mac->click(u"Reorganize automatically"_s);
         mac->click(u"Every hour"_s);
-        QTRY_COMPARE(ProfileStore().settings.autoUpdate, AutoUpdate::hourly);
+        QTRY_COMPARE(mac->world.profileStore().settings.autoUpdate, AutoUpdate::hourly);
     }
 
     void theReturnKeyOpensAMenuAndChooses() {
@@ -115,10 +115,10 @@ private Q_SLOTS:
         mac->press(Qt::Key_Up);
         mac->press(Qt::Key_Up);
         QVERIFY(mac->find(u"Every hour"_s) != nullptr);
-        QCOMPARE(ProfileStore().settings.autoUpdate, AutoUpdate::daily);
+        QCOMPARE(mac->world.profileStore().settings.autoUpdate, AutoUpdate::daily);
         mac->press(Qt::Key_Return);
         QTRY_VERIFY(mac->find(u"Every 4 hours"_s) == nullptr);
-        QCOMPARE(ProfileStore().settings.autoUpdate, AutoUpdate::hourly);
+        QCOMPARE(mac->world.profileStore().settings.autoUpdate, AutoUpdate::hourly);
     }
 
     void thePauseIsShownAndResumed() {
@@ -127,7 +127,7 @@ private Q_SLOTS:
         mac->open(Pane::settings);
         QVERIFY(mac->find(u"Paused: the Dock was changed outside Kelvane."_s) != nullptr);
         mac->click(u"Resume"_s);
-        QVERIFY(!ProfileStore().settings.autoPaused);
+        QVERIFY(!mac->world.profileStore().settings.autoPaused);
         QVERIFY(mac->waitForChange());
         QTRY_VERIFY(mac->find(u"Paused: the Dock was changed outside Kelvane."_s) == nullptr);
     }
@@ -135,14 +135,14 @@ private Q_SLOTS:
     void theDataIsShownAndErasedAfterAsking() {
         mac->open(Pane::settings);
         mac->click(u"Show in Finder"_s);
-        QCOMPARE(mac->desktop.revealed, QStringList{Paths::usage()});
+        QCOMPARE(mac->desktop.revealed, QStringList{mac->world.paths().usage()});
         mac->click(u"Erase"_s);
         QTRY_VERIFY(mac->find(u"Profiles and saved Docks are kept. Suggestions fall back to macOS's own record of "
                               "opened apps."_s) != nullptr);
-        QVERIFY(QFile::exists(Paths::usage()));
+        QVERIFY(QFile::exists(mac->world.paths().usage()));
         QTest::qWait(300);
         mac->press(Qt::Key_Return);
-        QTRY_VERIFY(!QFile::exists(Paths::usage()));
+        QTRY_VERIFY(!QFile::exists(mac->world.paths().usage()));
         QCOMPARE(mac->model->toast()->text, u"Usage history erased."_s);
     }
 

@@ -23,21 +23,22 @@ private Q_SLOTS:
         mac->click(u"New profile"_s);
         QCOMPARE(mac->focused(), u"Name"_s);
         mac->type(u"Focus"_s);
-        QCOMPARE(ProfileStore().profiles.last().name, u"Focus"_s);
+        QCOMPARE(mac->world.profileStore().profiles.last().name, u"Focus"_s);
     }
 
     void aDuplicateIsSelectedWithItsNameToTypeOver() {
         mac->click(u"Duplicate profile"_s);
         QCOMPARE(mac->focused(), u"Name"_s);
-        QCOMPARE(ProfileStore().profiles.last().name, u"Work Copy"_s);
+        QCOMPARE(mac->world.profileStore().profiles.last().name, u"Work Copy"_s);
         mac->type(u"Twin"_s);
-        QCOMPARE(ProfileStore().profiles.last().name, u"Twin"_s);
-        QCOMPARE(ProfileStore().profiles.last().pinned, ModelWorld::bundleIDs({u"Mail"_s, u"Notes"_s, u"Books"_s}));
+        QCOMPARE(mac->world.profileStore().profiles.last().name, u"Twin"_s);
+        QCOMPARE(mac->world.profileStore().profiles.last().pinned,
+                 ModelWorld::bundleIDs({u"Mail"_s, u"Notes"_s, u"Books"_s}));
     }
 
     void aSymbolIsChosen() {
         mac->click(u"airplane"_s);
-        QCOMPARE(ProfileStore().active().symbol, u"airplane"_s);
+        QCOMPARE(mac->world.profileStore().active().symbol, u"airplane"_s);
     }
 
     void theChevronsMoveOnePlace() {
@@ -176,7 +177,7 @@ private Q_SLOTS:
         QTRY_VERIFY(mac->find(u"Search apps"_s) == nullptr);
         mac->tabTo(u"Most-used apps"_s);
         mac->press(Qt::Key_Up);
-        const Profile made = ProfileStore().profiles.last();
+        const Profile made = mac->world.profileStore().profiles.last();
         QCOMPARE(made.name, u"Keys"_s);
         QCOMPARE(made.symbol, u"briefcase"_s);
         QCOMPARE(made.pinned, ModelWorld::bundleIDs({u"Photos"_s}));
@@ -186,7 +187,7 @@ private Q_SLOTS:
 private:
     QString pinned() {
         QStringList words;
-        const QStringList bundleIDs = ProfileStore().active().pinned;
+        const QStringList bundleIDs = mac->world.profileStore().active().pinned;
         for (const QString& bundleID : bundleIDs)
             words += bundleID.section(u'.', -1);
         return words.join(u' ');

@@ -69,8 +69,7 @@ private:
     quint32 processOf(const QString& program);
     quint32 bundledWindow(const QString& name, const QByteArray& identifier);
 
-    LinuxServices m_platform;
-    DockCore::ServicesScope m_scope = DockCore::ServicesScope(m_platform.platform());
+    LinuxServices m_system;
     std::unique_ptr<PrivateDesktop> m_desktop;
     std::unique_ptr<QTemporaryDir> m_applications;
     std::unique_ptr<StandInWindows> m_windows;
@@ -81,7 +80,7 @@ private:
 
 Kelvane::Workspace& X11WorkspaceTest::workspace() {
     if (!m_workspace)
-        m_workspace = std::make_unique<X11Workspace>();
+        m_workspace = std::make_unique<X11Workspace>(m_system.services().bundles);
     return *m_workspace;
 }
 
@@ -160,7 +159,7 @@ quint32 X11WorkspaceTest::bundledWindow(const QString& name, const QByteArray& i
 }
 
 void X11WorkspaceTest::theFrontApplicationIsTheBundleAroundItsProcess() {
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QCOMPARE(adapter.frontApplication(), std::optional<RunningApplication>());
     m_windows->activate(bundledWindow(u"Mail"_s, "com.example.Mail"));
     const RunningApplication mail = {.isRegular = true, .bundleID = u"com.example.Mail"_s, .name = u"Mail"_s};
@@ -173,7 +172,7 @@ void X11WorkspaceTest::aProgramReplacedWhileItRunsKeepsItsBundle() {
     const QString program = bundle(u"Mail"_s, "com.example.Mail");
     m_windows->activate(m_windows->make({.process = processOf(program)}));
     QVERIFY(QFile::remove(program));
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     const auto front = adapter.frontApplication();
     QVERIFY(front);
     QCOMPARE(front->bundleID, u"com.example.Mail"_s);
@@ -184,7 +183,7 @@ void X11WorkspaceTest::theInnermostBundleCounts() {
     const QString inner = PrivateDesktop::makeBundle(m_applications->filePath(u"Suite.app/Contents/Frameworks"_s),
                                                      u"Helper"_s, "com.example.Suite.Helper");
     m_windows->activate(m_windows->make({.process = processOf(inner)}));
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     const auto front = adapter.frontApplication();
     QVERIFY(front);
     QCOMPARE(front->bundleID, u"com.example.Suite.Helper"_s);
@@ -208,7 +207,7 @@ void X11WorkspaceTest::whatIsNoBundleIsNone() {
     const QString program = m_applications->filePath(folder + "/it"_L1);
     QVERIFY(QFile::copy(QStandardPaths::findExecutable(u"sleep"_s), program));
     m_windows->activate(m_windows->make({.process = processOf(program)}));
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     const auto front = adapter.frontApplication();
     QVERIFY(front);
     QVERIFY(front->isRegular);
@@ -217,7 +216,7 @@ void X11WorkspaceTest::whatIsNoBundleIsNone() {
 
 void X11WorkspaceTest::aWindowWithoutAProcessHasNoBundle() {
     m_windows->activate(m_windows->make({.title = "Adrift"}));
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     const RunningApplication adrift = {.isRegular = true, .bundleID = std::nullopt, .name = u"Adrift"_s};
     QCOMPARE(adapter.frontApplication(), adrift);
 }
@@ -225,7 +224,7 @@ void X11WorkspaceTest::aWindowWithoutAProcessHasNoBundle() {
 void X11WorkspaceTest::aProcessThatIsGoneHasNoBundle() {
     const quint32 window = bundledWindow(u"Mail"_s, "com.example.Mail");
     m_windows->activate(window);
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QVERIFY(adapter.frontApplication()->bundleID);
     m_processes.front()->kill();
     QVERIFY(m_processes.front()->waitForFinished(patience));
@@ -237,7 +236,7 @@ void X11WorkspaceTest::aProcessThatIsGoneHasNoBundle() {
 void X11WorkspaceTest::aProcessOfSomebodyElseHasNoBundle() {
     for (const quint32 process : {1U, 0U, 0x7fffffffU, 0xffffffffU}) {
         m_windows->activate(m_windows->make({.process = process}));
-        X11Workspace adapter;
+        X11Workspace adapter(m_system.services().bundles);
         const auto front = adapter.frontApplication();
         QVERIFY(front);
         QCOMPARE(front->bundleID, std::optional<QString>());
@@ -266,7 +265,7 @@ void X11WorkspaceTest::onlyOrdinaryWindowsAreRegular() {
     QFETCH(QByteArray, type);
     QFETCH(bool, isRegular);
     m_windows->activate(m_windows->make({.type = type}));
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     const auto front = adapter.frontApplication();
     QVERIFY(front);
     QCOMPARE(front->isRegular, isRegular);
@@ -292,14 +291,14 @@ void X11WorkspaceTest::namesOfWindowsAreReadLeniently() {
     QFETCH(QByteArray, title);
     QFETCH(QString, name);
     m_windows->activate(m_windows->make({.className = className, .title = title}));
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     const auto front = adapter.frontApplication();
     QVERIFY(front);
     QCOMPARE(front->name, name);
 }
 
 void X11WorkspaceTest::aWindowThatEndedIsNoFrontApplication() {
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     const quint32 window = m_windows->make({});
     m_windows->activate(window);
     QVERIFY(adapter.frontApplication());
@@ -309,7 +308,7 @@ void X11WorkspaceTest::aWindowThatEndedIsNoFrontApplication() {
 }
 
 void X11WorkspaceTest::withoutAWindowManagerNothingIsInFront() {
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QCOMPARE(adapter.frontApplication(), std::optional<RunningApplication>());
     QVERIFY(adapter.sinceLastInput());
 }
@@ -317,7 +316,7 @@ void X11WorkspaceTest::withoutAWindowManagerNothingIsInFront() {
 void X11WorkspaceTest::anActivationIsAnnouncedOnce() {
     const quint32 mail = bundledWindow(u"Mail"_s, "com.example.Mail");
     const quint32 notes = bundledWindow(u"Notes"_s, "com.example.Notes");
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QStringList announced;
     connect(&adapter, &X11Workspace::activated, this, [&announced](const RunningApplication& application) {
         announced.append(application.bundleID.value_or(u"none"_s));
@@ -341,7 +340,7 @@ void X11WorkspaceTest::anotherWindowOfTheSameProcessIsNoActivation() {
     const quint32 inbox = m_windows->make({.process = process});
     const quint32 letter = m_windows->make({.process = process, .type = "_NET_WM_WINDOW_TYPE_DIALOG"});
     const quint32 notes = bundledWindow(u"Notes"_s, "com.example.Notes");
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QSignalSpy spy(&adapter, &X11Workspace::activated);
     m_windows->activate(inbox);
     QVERIFY(spy.wait(patience));
@@ -357,7 +356,7 @@ void X11WorkspaceTest::anotherWindowOfTheSameProcessIsNoActivation() {
 void X11WorkspaceTest::aMomentWithoutAnActiveWindowIsNoActivation() {
     const quint32 mail = bundledWindow(u"Mail"_s, "com.example.Mail");
     const quint32 notes = bundledWindow(u"Notes"_s, "com.example.Notes");
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QSignalSpy spy(&adapter, &X11Workspace::activated);
     m_windows->activate(mail);
     QVERIFY(spy.wait(patience));
@@ -375,7 +374,7 @@ void X11WorkspaceTest::whoWasInFrontBeforeIsNotAnnounced() {
     const quint32 mail = bundledWindow(u"Mail"_s, "com.example.Mail");
     const quint32 notes = bundledWindow(u"Notes"_s, "com.example.Notes");
     m_windows->activate(mail);
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QSignalSpy spy(&adapter, &X11Workspace::activated);
     m_windows->activate(mail);
     adapter.frontApplication();
@@ -389,7 +388,7 @@ void X11WorkspaceTest::tenThousandFocusChangesAreSurvived() {
     const quint32 mail = bundledWindow(u"Mail"_s, "com.example.Mail");
     const quint32 notes = bundledWindow(u"Notes"_s, "com.example.Notes");
     const quint32 last = bundledWindow(u"Last"_s, "com.example.Last");
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QStringList announced;
     connect(&adapter, &X11Workspace::activated, this, [&announced](const RunningApplication& application) {
         announced.append(application.bundleID.value_or(u"none"_s));
@@ -413,7 +412,7 @@ void X11WorkspaceTest::tenThousandFocusChangesAreSurvived() {
 }
 
 void X11WorkspaceTest::inputResetsTheIdleTime() {
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QTRY_VERIFY_WITH_TIMEOUT(adapter.sinceLastInput() >= 300ms, patience);
     touchTheMouse();
     const auto idle = adapter.sinceLastInput();
@@ -423,7 +422,7 @@ void X11WorkspaceTest::inputResetsTheIdleTime() {
 
 void X11WorkspaceTest::withoutADisplayNobodyIsThere() {
     qunsetenv("DISPLAY");
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QCOMPARE(adapter.frontApplication(), std::optional<RunningApplication>());
     QCOMPARE(adapter.sinceLastInput(), std::optional(std::chrono::duration<double>::max()));
     // Somebody may well be there, where we cannot see them.
@@ -435,14 +434,14 @@ void X11WorkspaceTest::withoutADisplayNobodyIsThere() {
 void X11WorkspaceTest::aDisplayThatAppearsLaterIsFound() {
     m_windows.reset();
     m_desktop->stopDisplay();
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QVERIFY(!adapter.sinceLastInput());
     QVERIFY(m_desktop->startDisplay());
     QTRY_VERIFY_WITH_TIMEOUT(adapter.sinceLastInput(), patience);
 }
 
 void X11WorkspaceTest::aServerThatGoesIsFoundAgain() {
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     m_windows->activate(m_windows->make({.title = "before"}));
     QVERIFY(adapter.frontApplication());
     m_windows.reset();
@@ -461,7 +460,7 @@ void X11WorkspaceTest::aServerThatGoesIsFoundAgain() {
 }
 
 void X11WorkspaceTest::aServerThatGoesBetweenTwoQuestionsIsNoticed() {
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QVERIFY(adapter.sinceLastInput());
     m_windows.reset();
     m_desktop->stopDisplay();
@@ -477,7 +476,7 @@ void X11WorkspaceTest::withoutASessionBusNobodyIsInFront() {
     m_desktop->stopSessionBus();
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     const quint32 mail = bundledWindow(u"Mail"_s, "com.example.Mail");
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QSignalSpy spy(&adapter, &X11Workspace::activated);
     m_windows->activate(mail);
     QCOMPARE(adapter.frontApplication(), std::optional<RunningApplication>());
@@ -489,7 +488,7 @@ void X11WorkspaceTest::withoutASessionBusNobodyIsInFront() {
 
 void X11WorkspaceTest::aSessionBusThatGoesIsFoundAgain() {
     m_windows->activate(bundledWindow(u"Mail"_s, "com.example.Mail"));
-    X11Workspace adapter;
+    X11Workspace adapter(m_system.services().bundles);
     QVERIFY(adapter.frontApplication());
     QSignalSpy spy(&adapter, &X11Workspace::resumed);
     m_desktop->stopSessionBus();
