@@ -37,15 +37,13 @@ bool SelfTestReport::hasFailed() const {
 
 QString SelfTestReport::text() const {
     qsizetype widest = 0;
-    for (const Row& row : m_rows) {
+    for (const Row& row : m_rows)
         widest = std::max(widest, row.subject.size());
-    }
     QString result;
     for (const Row& row : m_rows) {
         QString line = word(row.verdict).leftJustified(8) + row.subject;
-        if (!row.finding.isEmpty()) {
+        if (!row.finding.isEmpty())
             line = line.leftJustified(8 + widest + 2) + row.finding;
-        }
         result += line + u'\n';
     }
     const auto count = [this](Verdict verdict) { return std::ranges::count(m_rows, verdict, &Row::verdict); };

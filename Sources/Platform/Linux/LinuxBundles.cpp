@@ -27,9 +27,8 @@ enum class Below { search, leave };
 
 QString withoutTrailingSlashes(const QString& path) {
     qsizetype length = path.size();
-    while (length > 1 && path.at(length - 1) == u'/') {
+    while (length > 1 && path.at(length - 1) == u'/')
         --length;
-    }
     return path.first(length);
 }
 
@@ -79,9 +78,8 @@ void LinuxBundles::Index::Folder::list(const QString& path, Below below) {
         } else if (below == Below::search) {
             const std::optional<FileStamp> child = FileStamp::of(entry);
             const bool isBundle = child && child->isFolder && FileStamp::of(infoFile(entry));
-            if (child && child->isFolder && !isBundle) {
+            if (child && child->isFolder && !isBundle)
                 folders.append(entry);
-            }
         }
     }
 }
@@ -92,9 +90,8 @@ void LinuxBundles::Index::add(const QString& bundle, const std::optional<QString
         return;
     }
     identifiers.insert(bundle, *identifier);
-    if (!paths.contains(*identifier)) {
+    if (!paths.contains(*identifier))
         paths.insert(*identifier, bundle);
-    }
 }
 
 LinuxBundles::LinuxBundles(std::function<QStringList()> searchFolders, std::function<QString()> memory)
@@ -119,9 +116,8 @@ QStringList LinuxBundles::remembered() const {
 void LinuxBundles::remember(const QString& path) {
     const QString bundle = withoutTrailingSlashes(path);
     const std::optional<QString> identifier = this->identifier(bundle);
-    if (!identifier || this->path(*identifier)) {
+    if (!identifier || this->path(*identifier))
         return;
-    }
     QStringList bundles = remembered();
     bundles.append(bundle);
     try {
@@ -135,36 +131,31 @@ void LinuxBundles::remember(const QString& path) {
 
 std::optional<QString> LinuxBundles::identifier(const QString& path) {
     const QString bundle = withoutTrailingSlashes(path);
-    if (!isApplication(bundle)) {
+    if (!isApplication(bundle))
         return std::nullopt;
-    }
     const QString file = infoFile(bundle);
     std::optional<Reading> known;
     {
         const std::lock_guard guard(m_lock);
         const auto reading = m_readings.constFind(bundle);
-        if (reading != m_readings.cend()) {
+        if (reading != m_readings.cend())
             known = *reading;
-        }
     }
     if (known) {
         const std::optional<FileStamp> stamp = FileStamp::of(file);
-        if (stamp && stamp->isUnchangedSince(known->stamp)) {
+        if (stamp && stamp->isUnchangedSince(known->stamp))
             return known->identifier;
-        }
     }
     const FileContent content = FileContent::of(file, largestInfo);
     const bool isRead = content.state == FileContent::State::read;
     const std::optional<QString> identifier = isRead ? identifierIn(content.bytes) : std::nullopt;
     const std::lock_guard guard(m_lock);
-    if (isRead) {
+    if (isRead)
         m_readings.insert(bundle, {.stamp = content.stamp, .identifier = identifier});
-    } else {
+    else
         m_readings.remove(bundle);
-    }
-    if (known && known->identifier != identifier) {
+    if (known && known->identifier != identifier)
         ++m_version;
-    }
     return identifier;
 }
 
@@ -174,19 +165,16 @@ QString LinuxBundles::displayName(const QString& path) {
 }
 
 std::optional<QString> LinuxBundles::path(const QString& identifier) {
-    if (identifier.isEmpty()) {
+    if (identifier.isEmpty())
         return std::nullopt;
-    }
     // A bundle that turns out to be another one makes the index old; the second one has then just been built.
     for (int attempt = 0; attempt < 2; ++attempt) {
         const std::shared_ptr<const Index> index = currentIndex();
         const auto path = index->paths.constFind(identifier);
-        if (path == index->paths.cend()) {
+        if (path == index->paths.cend())
             return std::nullopt;
-        }
-        if (this->identifier(*path) == identifier) {
+        if (this->identifier(*path) == identifier)
             return *path;
-        }
     }
     return std::nullopt;
 }
@@ -197,9 +185,8 @@ std::shared_ptr<const LinuxBundles::Index> LinuxBundles::currentIndex() {
         const std::lock_guard guard(m_lock);
         index = m_index;
     }
-    if (index && isCurrent(*index)) {
+    if (index && isCurrent(*index))
         return index;
-    }
     index = build(index.get());
     const std::lock_guard guard(m_lock);
     m_index = index;
@@ -212,14 +199,12 @@ quint64 LinuxBundles::version() {
 }
 
 bool LinuxBundles::isCurrent(const Index& index) {
-    if (index.version != version() || index.roots != m_searchFolders()) {
+    if (index.version != version() || index.roots != m_searchFolders())
         return false;
-    }
     for (auto folder = index.folders.cbegin(); folder != index.folders.cend(); ++folder) {
         const std::optional<FileStamp> stamp = FileStamp::of(folder.key());
-        if (stamp.has_value() != folder->stamp.has_value() || (stamp && !stamp->isUnchangedSince(*folder->stamp))) {
+        if (stamp.has_value() != folder->stamp.has_value() || (stamp && !stamp->isUnchangedSince(*folder->stamp)))
             return false;
-        }
     }
     return std::ranges::none_of(index.unidentified,
                                 [this](const QString& bundle) { return identifier(bundle).has_value(); });
@@ -245,11 +230,10 @@ std::shared_ptr<const LinuxBundles::Index> LinuxBundles::build(const Index* prev
                 visited.insert(place);
                 const Index::Folder before = previous == nullptr ? Index::Folder() : previous->folders.value(path);
                 isUnchanged = before.isListed && folder.stamp->isUnchangedSince(*before.stamp);
-                if (isUnchanged) {
+                if (isUnchanged)
                     folder = before;
-                } else {
+                else
                     folder.list(path, depth < deepestLevel ? Below::search : Below::leave);
-                }
             }
             for (const QString& bundle : std::as_const(folder.applications)) {
                 const bool isKnown = isUnchanged && keepsIdentifiers && previous->identifiers.contains(bundle);
@@ -261,9 +245,8 @@ std::shared_ptr<const LinuxBundles::Index> LinuxBundles::build(const Index* prev
         level = below;
     }
     const QStringList bundles = remembered();
-    for (const QString& bundle : bundles) {
+    for (const QString& bundle : bundles)
         index->add(bundle, identifier(bundle));
-    }
     return index;
 }
 

@@ -12,9 +12,8 @@ class NotificationObservers {
 public:
     NotificationObservers() = default;
     ~NotificationObservers() {
-        for (const Observer& observer : m_all) {
+        for (const Observer& observer : m_all)
             [observer.centre removeObserver:observer.token];
-        }
     }
     NotificationObservers(const NotificationObservers&) = delete;
     NotificationObservers& operator=(const NotificationObservers&) = delete;

@@ -28,13 +28,11 @@ namespace {
 
 bool isThere(const Platform::SystemInterface& interface) {
     using Kind = Platform::SystemInterface::Kind;
-    if (interface.kind == Kind::symbol) {
+    if (interface.kind == Kind::symbol)
         return dlsym(RTLD_DEFAULT, interface.name) != nullptr;
-    }
     NSString* name = QString::fromLatin1(interface.name).toNSString();
-    if (interface.kind == Kind::type) {
+    if (interface.kind == Kind::type)
         return NSClassFromString(name) != nil;
-    }
     Class type = NSClassFromString(QString::fromLatin1(interface.owner).toNSString());
     const SEL selector = NSSelectorFromString(name);
     return interface.kind == Kind::classMethod ? [type respondsToSelector:selector] != NO
@@ -67,11 +65,10 @@ void tellSystem(SelfTestReport& report) {
 
 void checkInterfaces(SelfTestReport& report) {
     for (const Platform::SystemInterface& interface : Platform::systemInterfaces()) {
-        if (interface.firstSystem > NSProcessInfo.processInfo.operatingSystemVersion.majorVersion) {
+        if (interface.firstSystem > NSProcessInfo.processInfo.operatingSystemVersion.majorVersion)
             report.add(Verdict::told, title(interface), u"from macOS %1"_s.arg(interface.firstSystem));
-        } else {
+        else
             report.check(isThere(interface), title(interface));
-        }
     }
 }
 

@@ -59,31 +59,26 @@ private:
 std::optional<int> PosixProcesses::run(const QString& executable, const QStringList& arguments) {
     std::vector<QByteArray> words = {QFile::encodeName(executable)};
     words.reserve(static_cast<size_t>(arguments.size()) + 1);
-    for (const QString& argument : arguments) {
+    for (const QString& argument : arguments)
         words.push_back(argument.toLocal8Bit());
-    }
     std::vector<char*> pointers;
     pointers.reserve(words.size() + 1);
-    for (QByteArray& word : words) {
+    for (QByteArray& word : words)
         pointers.push_back(word.data());
-    }
     pointers.push_back(nullptr);
 
     FileActions actions;
-    if (!actions.discardOutput()) {
+    if (!actions.discardOutput())
         return std::nullopt;
-    }
     const Attributes attributes;
     pid_t child = 0;
     if (posix_spawn(&child, words.front().constData(), actions.pointer(), attributes.pointer(), pointers.data(),
-                    environ) != 0) {
+                    environ) != 0)
         return std::nullopt;
-    }
     int status = 0;
     while (waitpid(child, &status, 0) == -1) {
-        if (errno != EINTR) {
+        if (errno != EINTR)
             return std::nullopt;
-        }
     }
     return WIFEXITED(status) ? std::optional(WEXITSTATUS(status)) : std::nullopt;
 }
