@@ -34,7 +34,7 @@ void require(bool condition, const char* what) {
 
 /// What `main` installs, as if the process had just started.
 struct FreshComputer {
-    LinuxServices platform;
+    Platform::LinuxServices platform;
     ServicesScope scope = ServicesScope(platform.platform());
     AppCatalog catalog;
 };

@@ -118,7 +118,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "kelvane-bench: the only option is --strict\n");
         return 2;
     }
-    LinuxServices platform;
+    Platform::LinuxServices platform;
     const DockCore::ServicesScope scope(platform.platform());
     if (!Fixture(1, 1).hasMetadata()) {
         std::printf("The temporary folder keeps no extended attributes: no application has a record of opened days.\n");

@@ -85,9 +85,9 @@ private:
         }
     }
 
-    LinuxServices m_platform;
+    Platform::LinuxServices m_platform;
     ServicesScope m_scope = ServicesScope(m_platform.platform());
-    LinuxSession m_desktop;
+    Platform::LinuxSession m_desktop;
     AppModel m_model = AppModel(&m_desktop.workspace(), &m_desktop.loginItem());
     AppDelegate m_delegate = AppDelegate(m_model, m_desktop.desktop(), m_desktop.images(), WindowModule::makeWindow);
 };

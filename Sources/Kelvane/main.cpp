@@ -14,17 +14,18 @@
 #include "Kelvane/UsageTracker.h"
 #include "Platform/Posix/Terminal.h"
 #include "Platform/Posix/TerminationSignals.h"
-#include "Platform/Posix/UnaskedExit.h"
 #include "Platform/SelfTest.h"
 #include "Platform/SystemServices.h"
 #include "Platform/SystemSession.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QScopeGuard>
 #include <QTextStream>
 #include <QThread>
 
 #include <cstdio>
+#include <cstdlib>
 
 using namespace Kelvane;
 using namespace Qt::StringLiterals;
@@ -61,8 +62,8 @@ enum class LockResult { acquired, shownByOther, timedOut };
 LockResult acquire(InstanceLock& lock, const QString& socket) {
     const QDeadlineTimer deadline(lockTimeout);
     while (lock.tryAcquire() == InstanceLock::State::busy) {
-        const auto reply =
-            CommandClient::ask(socket, {.kind = CommandRequest::Kind::showWindow}, Terminal::userID(), answerTimeout);
+        const auto reply = CommandClient::ask(socket, {.kind = CommandRequest::Kind::showWindow},
+                                              Platform::Terminal::userID(), answerTimeout);
         if (std::holds_alternative<Answer>(reply))
             return LockResult::shownByOther;
         if (deadline.hasExpired())
@@ -75,7 +76,7 @@ LockResult acquire(InstanceLock& lock, const QString& socket) {
 } // namespace
 
 int main(int argc, char** argv) {
-    SystemSession::prepareEnvironment();
+    Platform::SystemSession::prepareEnvironment();
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Kelvane"_s);
     QApplication::setApplicationVersion(QStringLiteral(KELVANE_VERSION));
@@ -91,13 +92,13 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (arguments.contains(u"--selftest"))
-        return runSelfTest();
+        return Platform::runSelfTest();
 
-    SystemServices system;
+    Platform::SystemServices system;
     const DockCore::ServicesScope scope(system.platform());
     if (arguments.contains(u"--uninstall")) {
         QTextStream output(stdout);
-        return Uninstall::run(SystemSession().loginItem(), output);
+        return Uninstall::run(Platform::SystemSession().loginItem(), output);
     }
     const QString support = DockCore::Paths::support();
     const QString socket = commandSocketPath(support);
@@ -112,9 +113,10 @@ int main(int argc, char** argv) {
         return 1;
     }
 
-    const TerminationSignals terminationSignals;
-    QObject::connect(&terminationSignals, &TerminationSignals::received, &application, &QCoreApplication::quit);
-    SystemSession desktop;
+    const Platform::TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &Platform::TerminationSignals::received, &application,
+                     &QCoreApplication::quit);
+    Platform::SystemSession desktop;
     AppModel model(&desktop.workspace(), &desktop.loginItem());
     CommandRunner runner(model);
     AppDelegate delegate(model, desktop.desktop(), desktop.images(), WindowModule::makeWindow);
@@ -122,6 +124,13 @@ int main(int argc, char** argv) {
     QObject::connect(&server, &CommandServer::showRequested, &delegate, &AppDelegate::showWindow);
     delegate.finishLaunching(arguments.contains(u"--show") ? AppDelegate::Window::show
                                                            : AppDelegate::Window::onFirstRun);
-    const UnaskedExit unaskedExit([&model] { model.tracker().flush(); });
-    return QApplication::exec();
+    // Qt calls exit with status 1 inside the event loop when the connection to the display breaks; destructors of main
+    // then do not run, those of static objects do. The end of the session is no failure.
+    static QScopeGuard lostDisplay([&model] {
+        model.tracker().flush();
+        std::_Exit(EXIT_SUCCESS);
+    });
+    const int status = QApplication::exec();
+    lostDisplay.dismiss();
+    return status;
 }

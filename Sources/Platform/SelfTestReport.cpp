@@ -7,6 +7,8 @@
 using namespace Qt::StringLiterals;
 using DockCore::PropertyList;
 
+namespace Platform {
+
 namespace {
 
 QString word(SelfTestReport::Verdict verdict) {
@@ -67,3 +69,5 @@ void checkPreferences(SelfTestReport& report, DockCore::Preferences& own) {
     own.setValue(key, std::nullopt);
     report.check(own.synchronize() && !own.copyValue(key), u"It is removed again"_s);
 }
+
+} // namespace Platform

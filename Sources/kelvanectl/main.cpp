@@ -71,7 +71,7 @@ Answer carryOut(QCoreApplication& application, const Command& command, Colour co
     InstanceLock lock(support);
     const QDeadlineTimer deadline(lockTimeout);
     while (true) {
-        const auto reply = CommandClient::ask(socket, request, Terminal::userID(), answerTimeout);
+        const auto reply = CommandClient::ask(socket, request, Platform::Terminal::userID(), answerTimeout);
         if (const auto* answer = std::get_if<Answer>(&reply))
             return *answer;
         const auto silence = std::get<CommandClient::Silence>(reply);
@@ -103,8 +103,8 @@ int main(int argc, char** argv) {
     if (const auto* mistake = std::get_if<CommandMistake>(&command))
         return finish({.status = Answer::mistaken, .error = mistake->sentence});
 
-    SystemServices system;
+    Platform::SystemServices system;
     const DockCore::ServicesScope scope(system.platform());
-    const Colour colour = Terminal::showsColours() ? Colour::terminal : Colour::none;
+    const Colour colour = Platform::Terminal::showsColours() ? Colour::terminal : Colour::none;
     return finish(carryOut(application, std::get<Command>(command), colour));
 }

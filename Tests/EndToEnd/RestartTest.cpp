@@ -111,7 +111,7 @@ void RestartTest::writesUntilTheDockKeepsTheList() {
     const LivingDock dock(reverts);
     QVERIFY(dock.isReady());
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(dock.configuration()));
-    LinuxServices computer;
+    Platform::LinuxServices computer;
     const DockCore::ServicesScope scope(computer.platform());
     QVERIFY(DockStore::isDockRunning());
     QCOMPARE(layoutSignature(DockStore::currentTiles()), layoutSignature(tiles(before)));

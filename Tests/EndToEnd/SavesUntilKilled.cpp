@@ -10,7 +10,7 @@
 #include <cstdio>
 
 int main(int, char** argv) {
-    SystemServices system;
+    Platform::SystemServices system;
     const DockCore::ServicesScope scope(system.platform());
     DockCore::UsageStore usage(QFile::decodeName(argv[1]));
     const QDateTime now = QDateTime::currentDateTimeUtc();

@@ -16,13 +16,13 @@
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
-    LinuxServices system;
+    Platform::LinuxServices system;
     const DockCore::ServicesScope scope(system.platform());
-    const TerminationSignals signals;
+    const Platform::TerminationSignals signals;
     Platform::X11Workspace workspace;
     DockCore::UsageStore usage(DockCore::Paths::usage());
     Kelvane::UsageTracker tracker(usage, &workspace);
-    QObject::connect(&signals, &TerminationSignals::received, &tracker, [&tracker] {
+    QObject::connect(&signals, &Platform::TerminationSignals::received, &tracker, [&tracker] {
         tracker.flush();
         QCoreApplication::quit();
     });

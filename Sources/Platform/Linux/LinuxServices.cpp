@@ -1,5 +1,7 @@
 #include "Platform/Linux/LinuxServices.h"
 
+namespace Platform {
+
 DockCore::Services LinuxServices::platform() {
     return {.preferences = m_preferences,
             .processes = m_processes,
@@ -8,3 +10,5 @@ DockCore::Services LinuxServices::platform() {
             .metadata = m_metadata,
             .clock = m_clock};
 }
+
+} // namespace Platform

@@ -6,19 +6,23 @@
 #include "Platform/Linux/LinuxFolders.h"
 #include "Platform/Linux/LinuxMetadata.h"
 #include "Platform/Linux/LinuxPreferences.h"
-#include "Platform/Posix/PosixProcesses.h"
+#include "Platform/QtProcesses.h"
+
+namespace Platform {
 
 /// This computer, as the logic sees it: owns one adapter a port. `main` makes one, installs `platform()` with a
 /// `ServicesScope` and keeps both to the end. Making it touches no file.
-class LinuxServices {
+class LinuxServices final {
 public:
     DockCore::Services platform();
 
 private:
-    Platform::LinuxPreferences m_preferences;
-    Platform::PosixProcesses m_processes;
-    Platform::LinuxBundles m_bundles;
-    Platform::LinuxFolders m_folders;
-    Platform::LinuxMetadata m_metadata;
-    Platform::LinuxClock m_clock;
+    LinuxPreferences m_preferences;
+    QtProcesses m_processes;
+    LinuxBundles m_bundles;
+    LinuxFolders m_folders;
+    LinuxMetadata m_metadata;
+    LinuxClock m_clock;
 };
+
+} // namespace Platform

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "Platform/Linux/AutostartLoginItem.h"
 #include "Platform/Linux/LinuxDesktop.h"
 #include "Platform/Linux/LinuxImages.h"
+#include "Platform/Linux/LinuxLoginItem.h"
 #include "Platform/Linux/X11Workspace.h"
 
+namespace Platform {
+
 /// The application's ports on Linux: owns one adapter a port. Made after the application object, by `main` alone.
-class LinuxSession {
+class LinuxSession final {
 public:
     /// What must be settled before the application object is made: without a display to show itself on the application
     /// runs on without a window, keeps its schedule, and makes its pictures for a dense screen.
@@ -18,8 +20,10 @@ public:
     Kelvane::Images& images() { return m_images; }
 
 private:
-    Platform::X11Workspace m_workspace;
-    Platform::AutostartLoginItem m_loginItem;
-    Platform::LinuxDesktop m_desktop;
-    Platform::LinuxImages m_images;
+    X11Workspace m_workspace;
+    LinuxLoginItem m_loginItem;
+    LinuxDesktop m_desktop;
+    LinuxImages m_images;
 };
+
+} // namespace Platform

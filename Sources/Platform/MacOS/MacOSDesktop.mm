@@ -11,10 +11,12 @@
 namespace Platform {
 
 namespace {
+
 void followMotion() {
     qGuiApp->setProperty("reducedMotion",
                          static_cast<bool>(NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion));
 }
+
 } // namespace
 
 MacOSDesktop::MacOSDesktop()

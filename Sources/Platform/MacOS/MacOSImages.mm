@@ -12,7 +12,9 @@
 namespace Platform {
 
 namespace {
+
 constexpr CGFloat scaleWithoutScreen = 2;
+
 } // namespace
 
 std::optional<QImage> MacOSImages::applicationIcon(const QString& path, int size) {

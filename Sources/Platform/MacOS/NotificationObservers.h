@@ -8,7 +8,7 @@ namespace Platform {
 
 /// Blocks that are called on the main thread when something is notified; they end with this object, which must end on
 /// the main thread too. For Objective-C++ only.
-class NotificationObservers {
+class NotificationObservers final {
 public:
     NotificationObservers() = default;
     ~NotificationObservers() {

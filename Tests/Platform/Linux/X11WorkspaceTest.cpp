@@ -69,7 +69,7 @@ private:
     quint32 processOf(const QString& program);
     quint32 bundledWindow(const QString& name, const QByteArray& identifier);
 
-    LinuxServices m_platform;
+    Platform::LinuxServices m_platform;
     DockCore::ServicesScope m_scope = DockCore::ServicesScope(m_platform.platform());
     std::unique_ptr<PrivateDesktop> m_desktop;
     std::unique_ptr<QTemporaryDir> m_applications;
