@@ -1,7 +1,7 @@
 #include "CommandLine.h"
 
 #include "Fixture.h"
-#include "Platform/Posix/PosixProcesses.h"
+#include "Platform/QtProcesses.h"
 
 #include <QCoreApplication>
 
@@ -12,7 +12,7 @@ QString CommandLine::program() {
 }
 
 Stopwatch::Pair CommandLine::applying(const Fixture& fixture, int runs) {
-    Platform::PosixProcesses processes;
+    Platform::QtProcesses processes;
     const auto run = [&processes](const QStringList& arguments) {
         if (processes.run(program(), arguments) != 0) {
             qFatal("kelvanectl %s failed", qPrintable(arguments.join(u' ')));

@@ -34,7 +34,7 @@ void require(bool condition, const char* what) {
 
 /// The services and the catalog of a process that has just started.
 struct FreshComputer {
-    LinuxServices system;
+    Platform::LinuxServices system;
     AppCatalog catalog = AppCatalog(system.services().bundles, system.services().folders);
 };
 

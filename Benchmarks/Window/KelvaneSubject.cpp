@@ -83,7 +83,7 @@ private:
     }
 
     /// Saves a dozen Docks before the model reads the list.
-    static LinuxServices& filled(LinuxServices& system) {
+    static Platform::LinuxServices& filled(Platform::LinuxServices& system) {
         const Services services = system.services();
         DockStore dock(services.preferences, services.processes, services.clock);
         SnapshotStore snapshots(Paths(services.folders).snapshots(), dock, services.clock);
@@ -93,8 +93,8 @@ private:
         return system;
     }
 
-    LinuxServices m_system;
-    LinuxSession m_desktop = LinuxSession(filled(m_system).services());
+    Platform::LinuxServices m_system;
+    Platform::LinuxSession m_desktop = Platform::LinuxSession(filled(m_system).services());
     AppModel m_model = AppModel(m_system.services(), Paths(m_system.services().folders), &m_desktop.workspace(),
                                 &m_desktop.loginItem());
     AppDelegate m_delegate = AppDelegate(m_model, m_desktop.desktop(), m_desktop.images(), WindowModule::makeWindow);

@@ -13,17 +13,18 @@
 #include "Kelvane/UsageTracker.h"
 #include "Platform/Posix/Terminal.h"
 #include "Platform/Posix/TerminationSignals.h"
-#include "Platform/Posix/UnaskedExit.h"
 #include "Platform/SelfTest.h"
 #include "Platform/SystemServices.h"
 #include "Platform/SystemSession.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QScopeGuard>
 #include <QTextStream>
 #include <QThread>
 
 #include <cstdio>
+#include <cstdlib>
 
 using namespace Kelvane;
 using namespace Qt::StringLiterals;
@@ -60,8 +61,8 @@ enum class LockResult { acquired, shownByOther, timedOut };
 LockResult acquire(InstanceLock& lock, const QString& socket) {
     const QDeadlineTimer deadline(lockTimeout);
     while (lock.tryAcquire() == InstanceLock::State::busy) {
-        const auto reply =
-            CommandClient::ask(socket, {.kind = CommandRequest::Kind::showWindow}, Terminal::userID(), answerTimeout);
+        const auto reply = CommandClient::ask(socket, {.kind = CommandRequest::Kind::showWindow},
+                                              Platform::Terminal::userID(), answerTimeout);
         if (std::holds_alternative<Answer>(reply))
             return LockResult::shownByOther;
         if (deadline.hasExpired())
@@ -74,7 +75,7 @@ LockResult acquire(InstanceLock& lock, const QString& socket) {
 } // namespace
 
 int main(int argc, char** argv) {
-    SystemSession::prepareEnvironment();
+    Platform::SystemSession::prepareEnvironment();
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Kelvane"_s);
     QApplication::setApplicationVersion(QStringLiteral(KELVANE_VERSION));
@@ -90,13 +91,13 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (arguments.contains(u"--selftest"))
-        return runSelfTest();
+        return Platform::runSelfTest();
 
-    SystemServices system;
+    Platform::SystemServices system;
     const DockCore::Paths paths(system.services().folders);
     if (arguments.contains(u"--uninstall")) {
         QTextStream output(stdout);
-        return Uninstall::run(SystemSession(system.services()).loginItem(), paths, output);
+        return Uninstall::run(Platform::SystemSession(system.services()).loginItem(), paths, output);
     }
     const QString socket = commandSocketPath(paths.support());
     InstanceLock lock(paths.support());
@@ -110,9 +111,9 @@ int main(int argc, char** argv) {
         return 1;
     }
 
-    const TerminationSignals terminationSignals;
-    QObject::connect(&terminationSignals, &TerminationSignals::received, &application, &QCoreApplication::quit);
-    SystemSession desktop(system.services());
+    const Platform::TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &Platform::TerminationSignals::received, &application, &QCoreApplication::quit);
+    Platform::SystemSession desktop(system.services());
     AppModel model(system.services(), paths, &desktop.workspace(), &desktop.loginItem());
     CommandRunner runner(model);
     AppDelegate delegate(model, desktop.desktop(), desktop.images(), WindowModule::makeWindow);
@@ -120,6 +121,13 @@ int main(int argc, char** argv) {
     QObject::connect(&server, &CommandServer::showRequested, &delegate, &AppDelegate::showWindow);
     delegate.finishLaunching(arguments.contains(u"--show") ? AppDelegate::Window::show
                                                            : AppDelegate::Window::onFirstRun);
-    const UnaskedExit unaskedExit([&model] { model.tracker().flush(); });
-    return QApplication::exec();
+    // Qt calls exit with status 1 inside the event loop when the connection to the display breaks; destructors of main
+    // then do not run, those of static objects do. The end of the session is no failure.
+    static QScopeGuard lostDisplay([&model] {
+        model.tracker().flush();
+        std::_Exit(EXIT_SUCCESS);
+    });
+    const int status = QApplication::exec();
+    lostDisplay.dismiss();
+    return status;
 }

@@ -7,6 +7,8 @@
 using namespace Qt::StringLiterals;
 using DockCore::PropertyList;
 
+namespace Platform {
+
 namespace {
 
 QString word(SelfTestReport::Verdict verdict) {
@@ -37,15 +39,13 @@ bool SelfTestReport::hasFailed() const {
 
 QString SelfTestReport::text() const {
     qsizetype widest = 0;
-    for (const Row& row : m_rows) {
+    for (const Row& row : m_rows)
         widest = std::max(widest, row.subject.size());
-    }
     QString result;
     for (const Row& row : m_rows) {
         QString line = word(row.verdict).leftJustified(8) + row.subject;
-        if (!row.finding.isEmpty()) {
+        if (!row.finding.isEmpty())
             line = line.leftJustified(8 + widest + 2) + row.finding;
-        }
         result += line + u'\n';
     }
     const auto count = [this](Verdict verdict) { return std::ranges::count(m_rows, verdict, &Row::verdict); };
@@ -69,3 +69,5 @@ void checkPreferences(SelfTestReport& report, DockCore::Preferences& own) {
     own.setValue(key, std::nullopt);
     report.check(own.synchronize() && !own.copyValue(key), u"It is removed again"_s);
 }
+
+} // namespace Platform

@@ -7,6 +7,8 @@ namespace DockCore {
 class Preferences;
 }
 
+namespace Platform {
+
 /// The table of a self-test while it is being filled. It knows nothing of what is tested. One thread.
 class SelfTestReport {
 public:
@@ -36,3 +38,5 @@ private:
 
 /// Saves a value of every kind in a domain of our own, reads it back and removes it.
 void checkPreferences(SelfTestReport& report, DockCore::Preferences& own);
+
+} // namespace Platform

@@ -71,7 +71,7 @@ Answer carryOut(const DockCore::Services& services, const Command& command, Colo
     InstanceLock lock(paths.support());
     const QDeadlineTimer deadline(lockTimeout);
     while (true) {
-        const auto reply = CommandClient::ask(socket, request, Terminal::userID(), answerTimeout);
+        const auto reply = CommandClient::ask(socket, request, Platform::Terminal::userID(), answerTimeout);
         if (const auto* answer = std::get_if<Answer>(&reply))
             return *answer;
         const auto silence = std::get<CommandClient::Silence>(reply);
@@ -103,7 +103,7 @@ int main(int argc, char** argv) {
     if (const auto* mistake = std::get_if<CommandMistake>(&command))
         return finish({.status = Answer::mistaken, .error = mistake->sentence});
 
-    SystemServices system;
-    const Colour colour = Terminal::showsColours() ? Colour::terminal : Colour::none;
+    Platform::SystemServices system;
+    const Colour colour = Platform::Terminal::showsColours() ? Colour::terminal : Colour::none;
     return finish(carryOut(system.services(), std::get<Command>(command), colour));
 }

@@ -1,6 +1,7 @@
 #include "DockCore/LayoutPlanner.h"
 
 #include "DockCore/AppCatalog.h"
+#include "Support/DockNotation.h"
 #include "Support/FakeServices.h"
 #include "Support/Seeds.h"
 
@@ -16,43 +17,19 @@ QStringList words(const QString& text) {
     return text.split(u' ', Qt::SkipEmptyParts);
 }
 
-PropertyList text(const QString& string) {
-    return {string};
-}
-
-/// An application's tile as the Dock itself writes it, told apart by its label.
-DockTile dockTile(const QString& bundleID, const QString& label, qsizetype index) {
-    return DockTile({{u"tile-type"_s, text(u"file-tile"_s)},
-                     {u"tile-data"_s, PropertyList{PropertyList::Dictionary{{u"bundle-identifier"_s, text(bundleID)},
-                                                                            {u"file-label"_s, text(label)},
-                                                                            {u"dock-extra"_s, PropertyList{false}}}}}},
-                    index);
-}
-
-/// A spacer, or for any other type an item that is no application.
-DockTile otherTile(const QString& type, qsizetype index) {
-    return DockTile({{u"tile-type"_s, text(type)}, {u"tile-data"_s, PropertyList{PropertyList::Dictionary{}}}}, index);
-}
-
-/// Words: an identifier is an application's tile, "~" a spacer, "-" a small one, "=" a flexible one, "@" a document.
+/// Tiles that their labels tell apart.
 QList<DockTile> dock(const QString& notation) {
-    const QHash<QString, QString> types = {{u"~"_s, u"spacer-tile"_s},
-                                           {u"-"_s, u"small-spacer-tile"_s},
-                                           {u"="_s, u"flex-spacer-tile"_s},
-                                           {u"@"_s, u"directory-tile"_s}};
-    QList<DockTile> tiles;
-    for (const QString& word : words(notation)) {
-        const QString label = u"tile %1"_s.arg(tiles.size());
-        tiles.append(types.contains(word) ? otherTile(types[word], tiles.size()) : dockTile(word, label, tiles.size()));
-    }
+    QList<DockTile> tiles = DockNotation::tiles(notation);
+    for (qsizetype place = 0; place < tiles.size(); ++place)
+        tiles[place].label = u"tile %1"_s.arg(place);
     return tiles;
 }
 
-/// The same words for a plan; a small spacer is "-".
+/// The same words for a plan.
 QString notation(const QList<DockTile>& tiles) {
     QStringList words;
     for (const DockTile& tile : tiles)
-        words.append(tile.bundleID ? *tile.bundleID : tile.kind == DockTile::Kind::smallSpacer ? u"-"_s : u"?"_s);
+        words.append(tile.bundleID ? *tile.bundleID : tile.kind == DockTile::Kind::smallSpacer ? u"_"_s : u"?"_s);
     return words.join(u' ');
 }
 
@@ -110,7 +87,7 @@ private Q_SLOTS:
         row("an empty Dock, nothing ranked, Mail pinned",
             {.pinned = u"com.apple.mail"_s, .slotCount = 3, .separate = true, .expected = u"com.apple.mail"_s});
         row("pinned, a small spacer, then by use",
-            {.pinned = u"b a"_s, .slotCount = 2, .separate = true, .ranked = u"d c e"_s, .expected = u"b a - d c"_s});
+            {.pinned = u"b a"_s, .slotCount = 2, .separate = true, .ranked = u"d c e"_s, .expected = u"b a _ d c"_s});
         row("no spacer unless wanted",
             {.pinned = u"b a"_s, .slotCount = 2, .ranked = u"d c e"_s, .expected = u"b a d c"_s});
         row("no spacer without slots",
@@ -150,8 +127,8 @@ private Q_SLOTS:
                                                                .slotCount = 2,
                                                                .separate = true,
                                                                .ranked = u"b"_s,
-                                                               .current = u"~ a - b = @ c"_s,
-                                                               .expected = u"a - b"_s});
+                                                               .current = u"| a _ b ~ /d c"_s,
+                                                               .expected = u"a _ b"_s});
         row("what is neither pinned nor ranked is left out",
             {.pinned = u"a"_s, .slotCount = 1, .ranked = u"b c"_s, .current = u"d e a"_s, .expected = u"a b"_s});
         row("negative slots admit nothing",
@@ -186,7 +163,7 @@ private Q_SLOTS:
 
     void whatIsInTheDockKeepsItsTile() {
         AppCatalog catalog(m_world->bundles, m_world->folders);
-        const QList<DockTile> current = dock(u"x ~ b a"_s);
+        const QList<DockTile> current = dock(u"x | b a"_s);
         const QList<DockTile> plan =
             LayoutPlanner::plan(profile(u"a x"_s, {}, 1, false), ranking({u"b"_s}), current, catalog);
         QCOMPARE(plan, (QList<DockTile>{current[3], current[0], current[2]}));
@@ -216,7 +193,7 @@ private Q_SLOTS:
     void holdsForAnyInput() {
         QFETCH(const quint32, seed);
         QRandomGenerator random(seed);
-        QStringList pool = words(u"a b c d e f x y z com.apple.mail com.apple.finder com.apple.dock ~ - = @"_s);
+        QStringList pool = words(u"a b c d e f x y z com.apple.mail com.apple.finder com.apple.dock | _ ~ /d"_s);
         const qsizetype applications = 12;
         const auto pick = [&](qsizetype among) {
             QStringList picked;

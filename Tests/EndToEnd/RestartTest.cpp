@@ -111,7 +111,7 @@ void RestartTest::writesUntilTheDockKeepsTheList() {
     const LivingDock dock(reverts);
     QVERIFY(dock.isReady());
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(dock.configuration()));
-    LinuxServices computer;
+    Platform::LinuxServices computer;
     const DockCore::Services services = computer.services();
     DockStore dockStore(services.preferences, services.processes, services.clock);
     QVERIFY(dockStore.isDockRunning());

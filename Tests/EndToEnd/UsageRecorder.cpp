@@ -15,12 +15,12 @@
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
-    LinuxServices system;
-    const TerminationSignals signals;
+    Platform::LinuxServices system;
+    const Platform::TerminationSignals signals;
     Platform::X11Workspace workspace(system.services().bundles);
     DockCore::UsageStore usage(DockCore::Paths(system.services().folders).usage());
     Kelvane::UsageTracker tracker(usage, system.services().clock, &workspace);
-    QObject::connect(&signals, &TerminationSignals::received, &tracker, [&tracker] {
+    QObject::connect(&signals, &Platform::TerminationSignals::received, &tracker, [&tracker] {
         tracker.flush();
         QCoreApplication::quit();
     });

@@ -14,8 +14,8 @@ MAY_INCLUDE = {
     "Sources/DockCore/": ("DockCore/",),
     "Sources/Kelvane/": ("DockCore/", "Kelvane/"),
     "Sources/kelvanectl/": ("DockCore/", "Kelvane/", "kelvanectl/"),
-    "Sources/Platform/Linux/": ("DockCore/", "Kelvane/Ports/", "Platform/Linux/", "Platform/Posix/", "Platform/SelfTest"),
-    "Sources/Platform/MacOS/": ("DockCore/", "Kelvane/Ports/", "Platform/MacOS/", "Platform/Posix/", "Platform/SelfTest"),
+    "Sources/Platform/Linux/": ("DockCore/", "Kelvane/Ports/", "Platform/Linux/", "Platform/Posix/", "Platform/QtProcesses", "Platform/SelfTest"),
+    "Sources/Platform/MacOS/": ("DockCore/", "Kelvane/Ports/", "Platform/MacOS/", "Platform/Posix/", "Platform/QtProcesses", "Platform/SelfTest"),
     "Sources/Platform/": ("DockCore/", "Kelvane/Ports/", "Platform/"),
 }
 MAINS = ("Sources/Kelvane/main.cpp", "Sources/kelvanectl/main.cpp")

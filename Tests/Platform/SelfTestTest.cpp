@@ -4,6 +4,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using Platform::SelfTestReport;
 using Verdict = SelfTestReport::Verdict;
 
 /// The table of the self-test, and the self-test of the machine that the tests run on.
@@ -44,7 +45,7 @@ void SelfTestTest::whatIsOnlyToldCannotFail() {
 }
 
 void SelfTestTest::thisMachinePasses() {
-    QCOMPARE(runSelfTest(), 0);
+    QCOMPARE(Platform::runSelfTest(), 0);
 }
 
 QTEST_GUILESS_MAIN(SelfTestTest)

@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QtQuickTest/quicktest.h>
 
 namespace Fakes {
 
@@ -70,8 +71,15 @@ public:
         // A new window is there before what it shows.
         const auto* content = quick()->findChild<QQuickItem*>(QStringLiteral("content"));
         QVERIFY(QTest::qWaitFor([content] { return !content->property("item").isNull(); }));
-        // Fades and steps take a moment; a test acts when they are over, as a person does.
-        QTest::qWait(300);
+        settle();
+    }
+    /// Waits until the window draws nothing new: fades and steps are over.
+    void settle() const {
+        constexpr int longestPauseBetweenFrames = 100;
+        constexpr int mostFrames = 500;
+        QSignalSpy frames(quick(), &QQuickWindow::frameSwapped);
+        while (frames.wait(longestPauseBetweenFrames))
+            QVERIFY(frames.count() < mostFrames);
     }
 
     QQuickWindow* quick() const {
@@ -96,16 +104,16 @@ public:
         QVERIFY2(QTest::qWaitFor([&] { return (item = find(name, nth)) != nullptr; }), qPrintable(name));
         const QPoint centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
         QTest::mouseClick(quick(), Qt::LeftButton, {}, centre);
-        QTest::qWait(20);
+        update();
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(quick(), key, modifiers);
-        QTest::qWait(10);
+        update();
     }
     void type(const QString& text) {
         for (const QChar character : text)
             QTest::sendKeyEvent(QTest::Click, quick(), Qt::Key_unknown, QString(character), Qt::NoModifier);
-        QTest::qWait(10);
+        update();
     }
     /// What a screen reader calls the control that takes the keys.
     QString focused() const {
@@ -137,6 +145,13 @@ private:
     /// A change says twice that work has changed: when it begins and when it ends.
     std::optional<QSignalSpy> m_work;
     int m_workSeen = 0;
+
+    /// Delivers what is queued and lays the window out anew, unless it was closed.
+    void update() const {
+        QCoreApplication::processEvents();
+        if (const QQuickWindow* shown = quick())
+            QVERIFY(QQuickTest::qWaitForPolish(shown));
+    }
 
     static void collect(QAccessibleInterface* node, const QString& name, QList<QQuickItem*>& controls,
                         QList<QQuickItem*>& words) {

@@ -7,20 +7,17 @@
 #include <QStringList>
 
 #include <functional>
-#include <memory>
 #include <mutex>
 
 namespace Platform {
 
-/// Application bundles as they lie on disk. What was read is kept and read again only when the disk says that it
-/// changed, which takes a few calls of `stat`, so that what is installed or removed later is noticed at the next
-/// question. A bundle that changes its identifier in place is noticed when it is asked for under either its path or its
-/// old identifier. Any thread may call it, several at a time; no lock is held while the disk is read.
+/// Application bundles as they lie on disk. The identifiers that were read are kept and read again only when the stamp
+/// of their file differs; everything else is asked of the disk each time, so that every answer is current. Any thread
+/// may call it, several at a time; no lock is held while the disk is read.
 class LinuxBundles final : public DockCore::Bundles {
 public:
     /// `searchFolders` gives the folders that `path` searches, `memory` the file that keeps what was remembered.
     LinuxBundles(std::function<QStringList()> searchFolders, std::function<QString()> memory);
-    ~LinuxBundles() override;
 
     /// From "Contents/Info.plist" of a folder whose name ends in ".app".
     std::optional<QString> identifier(const QString& path) override;
@@ -38,22 +35,14 @@ private:
         FileStamp stamp;
         std::optional<QString> identifier;
     };
-    struct Index;
 
     QStringList remembered() const;
-    std::shared_ptr<const Index> currentIndex();
-    bool isCurrent(const Index& index);
-    std::shared_ptr<const Index> build(const Index* previous);
-    quint64 version();
 
     const std::function<QStringList()> m_searchFolders;
     const std::function<QString()> m_memory;
     std::mutex m_lock;
     /// By the path of the bundle.
     QHash<QString, Reading> m_readings;
-    /// Counts the bundles that were found to have another identifier than before, and those that were remembered.
-    quint64 m_version = 0;
-    std::shared_ptr<const Index> m_index;
 };
 
 } // namespace Platform

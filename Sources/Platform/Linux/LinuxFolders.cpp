@@ -25,9 +25,8 @@ QString homeInUserDatabase() {
     std::vector<char> buffer(16384);
     passwd entry = {};
     passwd* found = nullptr;
-    if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || found == nullptr) {
+    if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || found == nullptr)
         return {};
-    }
     return QFile::decodeName(found->pw_dir);
 }
 
@@ -38,9 +37,8 @@ QString homeFolder() {
 
 QString baseFolder(const char* variable, const QString& belowHome) {
     const QString folder = absolutePath(variable);
-    if (!folder.isEmpty()) {
+    if (!folder.isEmpty())
         return folder;
-    }
     const QString home = homeFolder();
     return home.isEmpty() ? QString() : QDir::cleanPath(home + u'/' + belowHome);
 }
@@ -65,16 +63,14 @@ QStringList LinuxFolders::entries(const QString& folder) {
         void operator()(DIR* directory) const { closedir(directory); }
     };
     const std::unique_ptr<DIR, Close> directory(opendir(QFile::encodeName(folder).constData()));
-    if (!directory) {
+    if (!directory)
         return {};
-    }
     const QString prefix = folder.endsWith(u'/') ? folder : folder + u'/';
     QStringList paths;
     while (const dirent* entry = readdir(directory.get())) {
         const char* name = static_cast<const char*>(entry->d_name);
-        if (*name != '.') {
+        if (*name != '.')
             paths.append(prefix + QFile::decodeName(name));
-        }
     }
     return paths;
 }

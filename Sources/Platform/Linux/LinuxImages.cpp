@@ -6,7 +6,9 @@
 namespace Platform {
 
 namespace {
+
 constexpr qint64 largestIcon = 32LL * 1024 * 1024;
+
 } // namespace
 
 std::optional<QImage> LinuxImages::applicationIcon(const QString& path, int size) {

@@ -40,32 +40,28 @@ Attribute attribute(const QByteArray& path, const char* name) {
                 .value = std::nullopt};
     }
     const QByteArray bytes = QByteArray::fromRawData(buffer.data(), size);
-    if (PropertyList::format(bytes) != PropertyList::Format::binary) {
+    if (PropertyList::format(bytes) != PropertyList::Format::binary)
         return {.isFileThere = true, .value = std::nullopt};
-    }
     return {.isFileThere = true, .value = PropertyList::parse(bytes)};
 }
 
 std::optional<QDateTime> moment(const PropertyList& value) {
     const auto* date = std::get_if<PropertyList::Date>(&value.value);
-    if (date == nullptr || !(std::abs(date->seconds) < furthestMoment)) {
+    if (date == nullptr || !(std::abs(date->seconds) < furthestMoment))
         return std::nullopt;
-    }
     return QDateTime::fromMSecsSinceEpoch(std::llround((date->seconds + referenceDate) * 1000), Qt::UTC);
 }
 
 std::optional<QList<QDateTime>> moments(const PropertyList& value) {
     const PropertyList::Array* array = value.array();
-    if (array == nullptr) {
+    if (array == nullptr)
         return std::nullopt;
-    }
     QList<QDateTime> dates;
     dates.reserve(array->size());
     for (const PropertyList& element : *array) {
         const std::optional<QDateTime> date = moment(element);
-        if (!date) {
+        if (!date)
             return std::nullopt;
-        }
         dates.append(*date);
     }
     return dates;
@@ -76,9 +72,8 @@ std::optional<QList<QDateTime>> moments(const PropertyList& value) {
 std::optional<DockCore::Metadata::Item> LinuxMetadata::item(const QString& path) {
     const QByteArray file = QFile::encodeName(path);
     const Attribute used = attribute(file, usedDates);
-    if (!used.isFileThere) {
+    if (!used.isFileThere)
         return std::nullopt;
-    }
     const Attribute last = attribute(file, lastUsedDate);
     return Item{.usedDates = used.value ? moments(*used.value) : std::nullopt,
                 .lastUsedDate = last.value ? moment(*last.value) : std::nullopt};

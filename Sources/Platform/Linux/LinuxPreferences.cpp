@@ -19,9 +19,8 @@ constexpr qint64 largestFile = 256LL * 1024 * 1024;
 
 /// Makes the folder and those above it that are missing, for the user alone as the XDG rules ask.
 bool makeFolder(const QString& path) {
-    if (QFileInfo(path).isDir()) {
+    if (QFileInfo(path).isDir())
         return true;
-    }
     const QString parent = QFileInfo(path).path();
     return parent != path && makeFolder(parent) &&
            QDir().mkdir(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
@@ -39,24 +38,20 @@ QString LinuxPreferences::defaultPath() {
 bool LinuxPreferences::synchronize() {
     const std::lock_guard guard(m_lock);
     load();
-    if (m_pending.isEmpty()) {
+    if (m_pending.isEmpty())
         return true;
-    }
     const auto pending = std::exchange(m_pending, {});
-    if (m_file == File::unreadable) {
+    if (m_file == File::unreadable)
         return false;
-    }
     PropertyList::Dictionary values = m_values;
     for (auto change = pending.begin(); change != pending.end(); ++change) {
-        if (change.value()) {
+        if (change.value())
             values.insert(change.key(), *change.value());
-        } else {
+        else
             values.remove(change.key());
-        }
     }
-    if (values == m_values) {
+    if (values == m_values)
         return true;
-    }
     const bool isSaved = save(values);
     // What was saved is read back: a format need not keep every value exactly.
     load();
@@ -65,9 +60,8 @@ bool LinuxPreferences::synchronize() {
 
 std::optional<PropertyList> LinuxPreferences::copyValue(const QString& key) {
     const std::lock_guard guard(m_lock);
-    if (const auto pending = m_pending.constFind(key); pending != m_pending.cend()) {
+    if (const auto pending = m_pending.constFind(key); pending != m_pending.cend())
         return *pending;
-    }
     const auto value = m_values.constFind(key);
     return value == m_values.cend() ? std::nullopt : std::optional(*value);
 }
@@ -81,9 +75,8 @@ void LinuxPreferences::load() {
     // The bytes are compared rather than the file's times: a Dock that puts its list back at once may leave equal
     // times.
     const FileContent content = FileContent::of(m_path, largestFile);
-    if (content.state == FileContent::State::read && m_file == File::read && content.bytes == m_bytes) {
+    if (content.state == FileContent::State::read && m_file == File::read && content.bytes == m_bytes)
         return;
-    }
     m_bytes.clear();
     m_values.clear();
     if (content.state != FileContent::State::read) {
@@ -103,9 +96,8 @@ bool LinuxPreferences::save(const PropertyList::Dictionary& values) {
     const PropertyList::Format format =
         m_file == File::missing ? PropertyList::Format::binary : PropertyList::format(m_bytes);
     const QByteArray bytes = PropertyList{values}.serialize(format);
-    if (bytes.isEmpty() || !makeFolder(QFileInfo(m_path).path())) {
+    if (bytes.isEmpty() || !makeFolder(QFileInfo(m_path).path()))
         return false;
-    }
     try {
         DockCore::AtomicFile::save(bytes, m_path, DockCore::AtomicFile::Access::asBefore);
     } catch (const DockCore::FileError&) {

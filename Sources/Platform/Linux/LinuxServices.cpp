@@ -3,6 +3,8 @@
 #include "DockCore/AppCatalog.h"
 #include "DockCore/Storage/Paths.h"
 
+namespace Platform {
+
 LinuxServices::LinuxServices()
     : m_bundles([this] { return DockCore::AppCatalog::searchFolders(m_folders); },
                 [this] { return DockCore::Paths(m_folders).support() + QStringLiteral("/bundles.json"); }) {}
@@ -15,3 +17,5 @@ DockCore::Services LinuxServices::services() {
             .metadata = m_metadata,
             .clock = m_clock};
 }
+
+} // namespace Platform

@@ -6,19 +6,23 @@
 #include "Platform/Linux/LinuxFolders.h"
 #include "Platform/Linux/LinuxMetadata.h"
 #include "Platform/Linux/LinuxPreferences.h"
-#include "Platform/Posix/PosixProcesses.h"
+#include "Platform/QtProcesses.h"
+
+namespace Platform {
 
 /// The adapters for the logic, one a port. `main` makes one and keeps it to the end. Making it touches no file.
-class LinuxServices {
+class LinuxServices final {
 public:
     LinuxServices();
     DockCore::Services services();
 
 private:
-    Platform::LinuxPreferences m_preferences;
-    Platform::PosixProcesses m_processes;
-    Platform::LinuxFolders m_folders;
-    Platform::LinuxBundles m_bundles;
-    Platform::LinuxMetadata m_metadata;
-    Platform::LinuxClock m_clock;
+    LinuxPreferences m_preferences;
+    QtProcesses m_processes;
+    LinuxFolders m_folders;
+    LinuxBundles m_bundles;
+    LinuxMetadata m_metadata;
+    LinuxClock m_clock;
 };
+
+} // namespace Platform

@@ -4,13 +4,17 @@
 
 #include <xcb/xcb.h>
 
+namespace Platform {
+
 namespace {
+
 bool canReachXServer() {
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
     const bool isReached = xcb_connection_has_error(connection) == 0;
     xcb_disconnect(connection);
     return isReached;
 }
+
 } // namespace
 
 void LinuxSession::prepareEnvironment() {
@@ -22,3 +26,5 @@ void LinuxSession::prepareEnvironment() {
     if (qgetenv("QT_QPA_PLATFORM") == "offscreen" && !qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
         qputenv("QT_SCALE_FACTOR", "2");
 }
+
+} // namespace Platform

@@ -1,13 +1,15 @@
 #pragma once
 
 #include "DockCore/Services.h"
-#include "Platform/Linux/AutostartLoginItem.h"
 #include "Platform/Linux/LinuxDesktop.h"
 #include "Platform/Linux/LinuxImages.h"
+#include "Platform/Linux/LinuxLoginItem.h"
 #include "Platform/Linux/X11Workspace.h"
 
+namespace Platform {
+
 /// The application's ports on Linux: owns one adapter a port. Made after the application object, by `main` alone.
-class LinuxSession {
+class LinuxSession final {
 public:
     explicit LinuxSession(const DockCore::Services& services)
         : m_workspace(services.bundles) {}
@@ -22,8 +24,10 @@ public:
     Kelvane::Images& images() { return m_images; }
 
 private:
-    Platform::X11Workspace m_workspace;
-    Platform::AutostartLoginItem m_loginItem;
-    Platform::LinuxDesktop m_desktop;
-    Platform::LinuxImages m_images;
+    X11Workspace m_workspace;
+    LinuxLoginItem m_loginItem;
+    LinuxDesktop m_desktop;
+    LinuxImages m_images;
 };
+
+} // namespace Platform

@@ -9,7 +9,7 @@ namespace Platform {
 
 /// The user's settings for appearance and text, from the desktop portal. Without a session bus or a portal they are
 /// what they are where nobody asks for anything. Main thread only.
-class PortalSettings : public QObject {
+class PortalSettings final : public QObject {
     Q_OBJECT
 
 public:

@@ -6,7 +6,7 @@
 #include "Platform/Linux/LinuxPreferences.h"
 #include "Platform/Linux/LinuxServices.h"
 #include "Platform/Linux/X11Workspace.h"
-#include "Platform/Posix/PosixProcesses.h"
+#include "Platform/QtProcesses.h"
 #include "Platform/SelfTestReport.h"
 
 #include <QDBusConnection>
@@ -16,9 +16,12 @@
 
 using namespace Qt::StringLiterals;
 using DockCore::PropertyList;
-using Verdict = SelfTestReport::Verdict;
+
+namespace Platform {
 
 namespace {
+
+using Verdict = SelfTestReport::Verdict;
 
 void tellSystem(SelfTestReport& report) {
     report.add(Verdict::told, u"Kelvane"_s, QStringLiteral(KELVANE_VERSION));
@@ -28,28 +31,28 @@ void tellSystem(SelfTestReport& report) {
 }
 
 void tellDock(SelfTestReport& report) {
-    Platform::LinuxPreferences dock;
+    LinuxPreferences dock;
     dock.synchronize();
     const std::optional<PropertyList> tiles = dock.copyValue(u"persistent-apps"_s);
     const QString items = tiles && tiles->array() != nullptr ? u", %1 tiles"_s.arg(tiles->array()->size()) : QString();
-    report.add(Verdict::told, u"The Dock's property list"_s, Platform::LinuxPreferences::defaultPath() + items);
+    report.add(Verdict::told, u"The Dock's property list"_s, LinuxPreferences::defaultPath() + items);
 }
 
 void checkMachine(SelfTestReport& report) {
-    Platform::LinuxFolders folders;
+    LinuxFolders folders;
     report.check(!folders.home().isEmpty(), u"The home folder"_s, folders.home());
     report.check(!folders.applicationSupport().isEmpty(), u"The folder for application data"_s,
                  folders.applicationSupport());
-    report.check(Platform::PosixProcesses().run(u"/bin/sh"_s, {u"-c"_s, u"exit 7"_s}) == 7,
+    report.check(QtProcesses().run(u"/bin/sh"_s, {u"-c"_s, u"exit 7"_s}) == 7,
                  u"A program runs and its status comes back"_s);
-    Platform::LinuxClock clock;
+    LinuxClock clock;
     const std::chrono::nanoseconds before = clock.elapsed();
     report.check(clock.elapsed() >= before, u"Passed time does not go back"_s);
 }
 
 void tellSession(SelfTestReport& report) {
     LinuxServices system;
-    Platform::X11Workspace workspace(system.services().bundles);
+    X11Workspace workspace(system.services().bundles);
     const std::optional<Kelvane::RunningApplication> front = workspace.frontApplication();
     report.add(Verdict::told, u"In front"_s,
                front ? front->bundleID.value_or(front->name.value_or(u"without a name"_s)) : u"nothing"_s);
@@ -68,10 +71,12 @@ int runSelfTest() {
     tellSystem(report);
     tellDock(report);
     const QTemporaryDir folder;
-    Platform::LinuxPreferences own(folder.filePath(u"own.plist"_s));
+    LinuxPreferences own(folder.filePath(u"own.plist"_s));
     checkPreferences(report, own);
     checkMachine(report);
     tellSession(report);
     QTextStream(stdout) << report.text();
     return report.hasFailed() ? 1 : 0;
 }
+
+} // namespace Platform

@@ -12,7 +12,7 @@ namespace Platform {
 
 /// Hears over D-Bus that the screen is locked, that the machine sleeps and that another user takes over: the screen
 /// savers on the session bus, logind on the system bus. Either bus may be missing, end and come back. Main thread only.
-class SessionMonitor : public QObject {
+class SessionMonitor final : public QObject {
     Q_OBJECT
 
 public:

@@ -27,7 +27,7 @@ struct X11Window {
 
 /// One connection to the X server: which window is active, how long ago the last input was, whether the screens sleep.
 /// Once it has broken it answers nothing and stays so. Main thread only.
-class X11Display : public QObject {
+class X11Display final : public QObject {
     Q_OBJECT
 
 public:

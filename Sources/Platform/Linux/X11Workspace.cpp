@@ -1,28 +1,55 @@
 #include "Platform/Linux/X11Workspace.h"
 
-#include "Platform/Linux/RunningProcess.h"
+#include "DockCore/AppInfo.h"
 #include "Platform/Linux/X11Display.h"
 
+#include <QFile>
+
+#include <filesystem>
 #include <utility>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace Platform {
 
 namespace {
 
-/// Whoever asks often does not make us knock more often than this.
+/// Minimum interval between reconnect attempts.
 constexpr auto attemptInterval = 1s;
 
-/// Whether somebody could sit at a display, be it one that we cannot reach.
+/// Whether the session has a display, reachable or not.
 bool hasDisplay() {
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+/// The innermost application bundle around the program at `executable`; nothing when it lies in none.
+std::optional<DockCore::AppInfo> applicationAround(const QString& executable, DockCore::Bundles& bundles) {
+    for (qsizetype end = executable.lastIndexOf(u'/'); end > 0; end = executable.lastIndexOf(u'/', end - 1)) {
+        const QString folder = executable.first(end);
+        if (!folder.endsWith(".app"_L1))
+            continue;
+        if (const auto application = DockCore::AppInfo::fromBundle(folder, bundles))
+            return application;
+    }
+    return std::nullopt;
+}
+
+/// The application whose program the process runs; nothing when the process is gone, belongs to another user or runs a
+/// program outside any bundle.
+std::optional<DockCore::AppInfo> applicationOf(qint64 process, DockCore::Bundles& bundles) {
+    std::error_code error;
+    const auto link = std::filesystem::read_symlink("/proc/" + std::to_string(process) + "/exe", error);
+    if (error)
+        return std::nullopt;
+    // After an update of a running program the kernel appends " (deleted)" to the file name; the folders stay.
+    return applicationAround(QFile::decodeName(QByteArray::fromStdString(link.native())), bundles);
 }
 
 Kelvane::RunningApplication application(const X11Window& window, DockCore::Bundles& bundles) {
     Kelvane::RunningApplication running;
     running.isRegular = window.isOrdinary;
-    if (const auto bundle = window.process ? RunningProcess::application(*window.process, bundles) : std::nullopt) {
+    if (const auto bundle = window.process ? applicationOf(*window.process, bundles) : std::nullopt) {
         running.bundleID = bundle->bundleID;
         running.name = bundle->name;
     } else if (!window.name.isEmpty()) {
@@ -45,7 +72,7 @@ X11Workspace::X11Workspace(DockCore::Bundles& bundles, QObject* parent)
 X11Workspace::~X11Workspace() = default;
 
 std::optional<Kelvane::RunningApplication> X11Workspace::frontApplication() {
-    // Without the bus a locked screen would go unnoticed, and whoever is in front then need not be in use.
+    // Without the bus a locked screen would go unnoticed, and the front application might not be in use.
     if (!m_display || !m_session.isListening())
         return std::nullopt;
     const auto window = m_display->activeWindow();
@@ -59,7 +86,7 @@ std::optional<std::chrono::duration<double>> X11Workspace::sinceLastInput() {
     const auto state = m_display->userState();
     if (state.screensSleep != m_screensSleep) {
         m_screensSleep = state.screensSleep;
-        // The pause counts for the time that whoever asks is about to credit; the return only for what comes after.
+        // The pause applies to the time that the caller is about to credit; the resumption only to what follows.
         if (m_screensSleep)
             Q_EMIT paused();
         else
@@ -74,7 +101,7 @@ void X11Workspace::connectDisplay() {
         return;
     connect(m_display.get(), &X11Display::activeWindowChanged, this, &X11Workspace::announceFront);
     connect(m_display.get(), &X11Display::lost, this, &X11Workspace::dropDisplay);
-    // Whoever is in front already did not come there now.
+    // The application that is already in front was not activated now.
     if (const auto window = m_display->activeWindow()) {
         m_frontWindow = window->id;
         m_frontProcess = window->process;
@@ -97,12 +124,12 @@ void X11Workspace::reconnect() {
 void X11Workspace::dropDisplay() {
     if (!m_display)
         return;
-    // It may be the one who is speaking.
+    // May run inside the display's own signal, so delete later.
     m_display->disconnect(this);
     m_display.release()->deleteLater();
     m_frontWindow.reset();
     m_frontProcess.reset();
-    // Screens that slept do so no more as far as anybody can tell.
+    // Without a display nothing says that the screens still sleep.
     if (std::exchange(m_screensSleep, false))
         QMetaObject::invokeMethod(this, &Workspace::resumed, Qt::QueuedConnection);
 }

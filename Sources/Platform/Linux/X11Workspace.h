@@ -17,7 +17,7 @@ class X11Display;
 
 /// The desktop of an X11 session. X server and session bus may be missing, go and come back: each question is the
 /// occasion to look for them again, so that waiting for them wakes nobody.
-class X11Workspace : public Kelvane::Workspace {
+class X11Workspace final : public Kelvane::Workspace {
     Q_OBJECT
 
 public:

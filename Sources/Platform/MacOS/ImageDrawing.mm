@@ -13,9 +13,8 @@ namespace {
 /// `size` shrunk or grown into a square of `side`, in its own proportions and centred.
 NSRect fitted(NSSize size, CGFloat side) {
     const CGFloat longest = std::max(size.width, size.height);
-    if (longest <= 0) {
+    if (longest <= 0)
         return {{0, 0}, {side, side}};
-    }
     const CGFloat width = size.width * side / longest;
     const CGFloat height = size.height * side / longest;
     return {{(side - width) / 2, (side - height) / 2}, {width, height}};
@@ -36,14 +35,12 @@ Owner<CGContextRef> canvas(QImage& image) {
 QImage draw(NSImage* _Nonnull image, int size, int scale) {
     const int pixels = size * scale;
     QImage result(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
-    if (result.isNull()) {
+    if (result.isNull())
         return {};
-    }
     result.fill(Qt::transparent);
     const Owner<CGContextRef> context = canvas(result);
-    if (!context) {
+    if (!context)
         return {};
-    }
     @autoreleasepool {
         [NSGraphicsContext saveGraphicsState];
         NSGraphicsContext.currentContext = [NSGraphicsContext graphicsContextWithCGContext:context.borrow() flipped:NO];
@@ -60,14 +57,12 @@ QImage draw(NSImage* _Nonnull image, int size, int scale) {
 QImage draw(CALayer* _Nonnull layer, CGSize size, CGFloat scale, const QColor& background) {
     QImage result(static_cast<int>(std::lround(size.width * scale)), static_cast<int>(std::lround(size.height * scale)),
                   QImage::Format_ARGB32_Premultiplied);
-    if (result.isNull()) {
+    if (result.isNull())
         return {};
-    }
     result.fill(background);
     const Owner<CGContextRef> context = canvas(result);
-    if (!context) {
+    if (!context)
         return {};
-    }
     CGContextScaleCTM(context.borrow(), scale, scale);
     [layer renderInContext:context.borrow()];
     return result;

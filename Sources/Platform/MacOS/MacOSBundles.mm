@@ -7,9 +7,8 @@ namespace Platform {
 namespace {
 
 std::optional<QString> textOrNothing(NSString* _Nullable text) {
-    if (text == nil) {
+    if (text == nil)
         return std::nullopt;
-    }
     return QString::fromNSString(text);
 }
 
@@ -17,9 +16,8 @@ std::optional<QString> textOrNothing(NSString* _Nullable text) {
 
 std::optional<QString> MacOSBundles::identifier(const QString& path) {
     // Foundation raises an exception for an empty path.
-    if (path.isEmpty()) {
+    if (path.isEmpty())
         return std::nullopt;
-    }
     @autoreleasepool {
         NSURL* url = [NSURL fileURLWithPath:path.toNSString() isDirectory:YES];
         NSBundle* bundle = [[NSBundle alloc] initWithURL:url];

@@ -11,10 +11,12 @@
 namespace Platform {
 
 namespace {
+
 void followMotion() {
     qGuiApp->setProperty("reducedMotion",
                          static_cast<bool>(NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion));
 }
+
 } // namespace
 
 MacOSDesktop::MacOSDesktop()
@@ -36,37 +38,32 @@ void MacOSDesktop::setActivationPolicy(ActivationPolicy policy) {
         const bool regular = policy == ActivationPolicy::regular;
         const BOOL accepted = [application setActivationPolicy:regular ? NSApplicationActivationPolicyRegular
                                                                        : NSApplicationActivationPolicyAccessory];
-        if (!accepted) {
+        if (!accepted)
             qWarning("The system refused the activation policy.");
-        }
-        if (!regular) {
+        if (!regular)
             return;
-        }
-        if (@available(macOS 14.0, *)) {
+        if (@available(macOS 14.0, *))
             [application activate];
-        } else {
+        else
             [application activateIgnoringOtherApps:YES];
-        }
     }
 }
 
 void MacOSDesktop::setAppearance(Appearance appearance) {
     @autoreleasepool {
         NSAppearance* forced = nil;
-        if (appearance == Appearance::light) {
+        if (appearance == Appearance::light)
             forced = [NSAppearance appearanceNamed:NSAppearanceNameAqua];
-        } else if (appearance == Appearance::dark) {
+        else if (appearance == Appearance::dark)
             forced = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
-        }
         // None follows the system.
         NSApplication.sharedApplication.appearance = forced;
     }
 }
 
 void MacOSDesktop::prepareMainWindow(QWindow& window) {
-    if (window.findChild<MainWindowChrome*>(QString(), Qt::FindDirectChildrenOnly) == nullptr) {
+    if (window.findChild<MainWindowChrome*>(QString(), Qt::FindDirectChildrenOnly) == nullptr)
         new MainWindowChrome(window);
-    }
 }
 
 bool MacOSDesktop::showAboutPanel() {
@@ -77,9 +74,8 @@ bool MacOSDesktop::showAboutPanel() {
 }
 
 void MacOSDesktop::reveal(const QString& path) {
-    if (path.isEmpty()) {
+    if (path.isEmpty())
         return;
-    }
     @autoreleasepool {
         [NSWorkspace.sharedWorkspace activateFileViewerSelectingURLs:@[ [NSURL fileURLWithPath:path.toNSString()] ]];
     }

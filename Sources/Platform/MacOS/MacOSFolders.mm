@@ -21,9 +21,8 @@ QString MacOSFolders::applicationSupport() {
 QStringList MacOSFolders::entries(const QString& folder) {
     QStringList result;
     // Foundation raises an exception for an empty path.
-    if (folder.isEmpty()) {
+    if (folder.isEmpty())
         return result;
-    }
     @autoreleasepool {
         NSURL* url = [NSURL fileURLWithPath:folder.toNSString() isDirectory:YES];
         NSArray<NSURL*>* found =
@@ -31,9 +30,8 @@ QStringList MacOSFolders::entries(const QString& folder) {
                                         includingPropertiesForKeys:@[]
                                                            options:NSDirectoryEnumerationSkipsHiddenFiles
                                                              error:nil];
-        for (NSURL* entry in found) {
+        for (NSURL* entry in found)
             result.append(QString::fromNSString(entry.path));
-        }
     }
     return result;
 }

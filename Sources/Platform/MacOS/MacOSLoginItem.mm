@@ -15,9 +15,8 @@ std::optional<QString> MacOSLoginItem::setEnabled(bool enabled) {
         SMAppService* service = SMAppService.mainAppService;
         NSError* error = nil;
         const BOOL done = enabled ? [service registerAndReturnError:&error] : [service unregisterAndReturnError:&error];
-        if (done) {
+        if (done)
             return std::nullopt;
-        }
         return QString::fromNSString(error.localizedDescription);
     }
 }

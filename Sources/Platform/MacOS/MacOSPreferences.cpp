@@ -27,9 +27,8 @@ bool MacOSPreferences::synchronize() {
 
 std::optional<DockCore::PropertyList> MacOSPreferences::copyValue(const QString& key) {
     const Owner value = copyAppValue(PreferenceKey(key), m_domain);
-    if (!value) {
+    if (!value)
         return std::nullopt;
-    }
     return propertyList(value.borrow());
 }
 

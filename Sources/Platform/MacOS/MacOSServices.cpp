@@ -1,5 +1,7 @@
 #include "Platform/MacOS/MacOSServices.h"
 
+namespace Platform {
+
 DockCore::Services MacOSServices::services() {
     return {.preferences = m_preferences,
             .processes = m_processes,
@@ -8,3 +10,5 @@ DockCore::Services MacOSServices::services() {
             .metadata = m_metadata,
             .clock = m_clock};
 }
+
+} // namespace Platform

@@ -6,19 +6,23 @@
 #include "Platform/MacOS/MacOSFolders.h"
 #include "Platform/MacOS/MacOSMetadata.h"
 #include "Platform/MacOS/MacOSPreferences.h"
-#include "Platform/Posix/PosixProcesses.h"
+#include "Platform/QtProcesses.h"
+
+namespace Platform {
 
 /// The adapters for the logic, one a port. `main` makes one and keeps it to the end. Making it asks the system for
 /// nothing.
-class MacOSServices {
+class MacOSServices final {
 public:
     DockCore::Services services();
 
 private:
-    Platform::MacOSPreferences m_preferences;
-    Platform::PosixProcesses m_processes;
-    Platform::MacOSBundles m_bundles;
-    Platform::MacOSFolders m_folders;
-    Platform::MacOSMetadata m_metadata;
-    Platform::MacOSClock m_clock;
+    MacOSPreferences m_preferences;
+    QtProcesses m_processes;
+    MacOSBundles m_bundles;
+    MacOSFolders m_folders;
+    MacOSMetadata m_metadata;
+    MacOSClock m_clock;
 };
+
+} // namespace Platform

@@ -6,8 +6,10 @@
 #include "Platform/MacOS/MacOSLoginItem.h"
 #include "Platform/MacOS/MacOSWorkspace.h"
 
+namespace Platform {
+
 /// The application's ports on macOS: owns one adapter a port. Made after the application object, by `main` alone.
-class MacOSSession {
+class MacOSSession final {
 public:
     explicit MacOSSession(const DockCore::Services&) {}
 
@@ -21,8 +23,10 @@ public:
     Kelvane::Images& images() { return m_images; }
 
 private:
-    Platform::MacOSWorkspace m_workspace;
-    Platform::MacOSLoginItem m_loginItem;
-    Platform::MacOSDesktop m_desktop;
-    Platform::MacOSImages m_images;
+    MacOSWorkspace m_workspace;
+    MacOSLoginItem m_loginItem;
+    MacOSDesktop m_desktop;
+    MacOSImages m_images;
 };
+
+} // namespace Platform

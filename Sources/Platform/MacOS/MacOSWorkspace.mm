@@ -12,12 +12,10 @@ namespace {
 Kelvane::RunningApplication describe(NSRunningApplication* application) {
     Kelvane::RunningApplication result;
     result.isRegular = application.activationPolicy == NSApplicationActivationPolicyRegular;
-    if (NSString* identifier = application.bundleIdentifier) {
+    if (NSString* identifier = application.bundleIdentifier)
         result.bundleID = QString::fromNSString(identifier);
-    }
-    if (NSString* name = application.localizedName) {
+    if (NSString* name = application.localizedName)
         result.name = QString::fromNSString(name);
-    }
     return result;
 }
 
@@ -31,9 +29,8 @@ MacOSWorkspace::MacOSWorkspace(QObject* parent)
         NSNotificationCenter* workspace = NSWorkspace.sharedWorkspace.notificationCenter;
         m_observers->observe(workspace, NSWorkspaceDidActivateApplicationNotification, ^(NSNotification* notification) {
             id application = notification.userInfo[NSWorkspaceApplicationKey];
-            if ([application isKindOfClass:NSRunningApplication.class]) {
+            if ([application isKindOfClass:NSRunningApplication.class])
                 Q_EMIT activated(describe(application));
-            }
         });
 
         void (^pause)(NSNotification*) = ^(NSNotification*) {
@@ -60,9 +57,8 @@ MacOSWorkspace::~MacOSWorkspace() = default;
 std::optional<Kelvane::RunningApplication> MacOSWorkspace::frontApplication() {
     @autoreleasepool {
         NSRunningApplication* application = NSWorkspace.sharedWorkspace.frontmostApplication;
-        if (application == nil) {
+        if (application == nil)
             return std::nullopt;
-        }
         return describe(application);
     }
 }

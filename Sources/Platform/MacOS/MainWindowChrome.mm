@@ -11,16 +11,14 @@ MainWindowChrome::MainWindowChrome(QWindow& window)
     : QObject(&window)
     , m_window(window) {
     window.installEventFilter(this);
-    if (window.handle() != nullptr) {
+    if (window.handle() != nullptr)
         dress();
-    }
 }
 
 bool MainWindowChrome::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &m_window && event->type() == QEvent::PlatformSurface &&
-        static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() == QPlatformSurfaceEvent::SurfaceCreated) {
+        static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() == QPlatformSurfaceEvent::SurfaceCreated)
         dress();
-    }
     return false;
 }
 
@@ -28,9 +26,8 @@ void MainWindowChrome::dress() {
     @autoreleasepool {
         auto* view = (__bridge NSView*)reinterpret_cast<void*>(m_window.winId());
         NSWindow* window = view.window;
-        if (window == nil) {
+        if (window == nil)
             return;
-        }
         const QSize content = m_window.size();
         window.styleMask |= NSWindowStyleMaskFullSizeContentView;
         window.titlebarAppearsTransparent = YES;
@@ -41,9 +38,8 @@ void MainWindowChrome::dress() {
             [window
                 setContentSize:NSSize{static_cast<CGFloat>(content.width()), static_cast<CGFloat>(content.height())}];
         }
-        if (![window setFrameAutosaveName:@"MainWindow"]) {
+        if (![window setFrameAutosaveName:@"MainWindow"])
             qWarning("The main window's frame is not being remembered: its name is taken.");
-        }
     }
 }
 

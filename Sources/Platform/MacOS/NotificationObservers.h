@@ -8,13 +8,12 @@ namespace Platform {
 
 /// Blocks that are called on the main thread when something is notified; they end with this object, which must end on
 /// the main thread too. For Objective-C++ only.
-class NotificationObservers {
+class NotificationObservers final {
 public:
     NotificationObservers() = default;
     ~NotificationObservers() {
-        for (const Observer& observer : m_all) {
+        for (const Observer& observer : m_all)
             [observer.centre removeObserver:observer.token];
-        }
     }
     NotificationObservers(const NotificationObservers&) = delete;
     NotificationObservers& operator=(const NotificationObservers&) = delete;

@@ -16,9 +16,8 @@ public:
     explicit Owner(Reference adopted)
         : m_reference(adopted) {}
     ~Owner() {
-        if (m_reference != nullptr) {
+        if (m_reference != nullptr)
             CFRelease(m_reference);
-        }
     }
     Owner(Owner&& other) noexcept
         : m_reference(std::exchange(other.m_reference, nullptr)) {}

@@ -8,9 +8,8 @@
 #include "Platform/MacOS/MacOSMetadata.h"
 #include "Platform/MacOS/MacOSPreferences.h"
 #include "Platform/MacOS/MacOSWorkspace.h"
-#include "Platform/MacOS/SystemInterfaces.h"
 #include "Platform/MacOS/Values.h"
-#include "Platform/Posix/PosixProcesses.h"
+#include "Platform/QtProcesses.h"
 #include "Platform/SelfTestReport.h"
 
 #include <QSysInfo>
@@ -18,44 +17,14 @@
 
 #import <AppKit/AppKit.h>
 
-#include <dlfcn.h>
-
 using namespace Qt::StringLiterals;
 using DockCore::PropertyList;
-using Verdict = SelfTestReport::Verdict;
+
+namespace Platform {
 
 namespace {
 
-bool isThere(const Platform::SystemInterface& interface) {
-    using Kind = Platform::SystemInterface::Kind;
-    if (interface.kind == Kind::symbol) {
-        return dlsym(RTLD_DEFAULT, interface.name) != nullptr;
-    }
-    NSString* name = QString::fromLatin1(interface.name).toNSString();
-    if (interface.kind == Kind::type) {
-        return NSClassFromString(name) != nil;
-    }
-    Class type = NSClassFromString(QString::fromLatin1(interface.owner).toNSString());
-    const SEL selector = NSSelectorFromString(name);
-    return interface.kind == Kind::classMethod ? [type respondsToSelector:selector] != NO
-                                               : [type instancesRespondToSelector:selector] != NO;
-}
-
-QString title(const Platform::SystemInterface& interface) {
-    using Kind = Platform::SystemInterface::Kind;
-    const QString name = QString::fromLatin1(interface.name);
-    switch (interface.kind) {
-    case Kind::type:
-        return u"class "_s + name;
-    case Kind::classMethod:
-        return u"+[%1 %2]"_s.arg(QLatin1StringView(interface.owner), name);
-    case Kind::instanceMethod:
-        return u"-[%1 %2]"_s.arg(QLatin1StringView(interface.owner), name);
-    case Kind::symbol:
-        break;
-    }
-    return u"symbol "_s + name;
-}
+using Verdict = SelfTestReport::Verdict;
 
 void tellSystem(SelfTestReport& report) {
     report.add(Verdict::told, u"Kelvane"_s, QStringLiteral(KELVANE_VERSION));
@@ -65,18 +34,8 @@ void tellSystem(SelfTestReport& report) {
     report.add(Verdict::told, u"Qt"_s, QString::fromLatin1(qVersion()));
 }
 
-void checkInterfaces(SelfTestReport& report) {
-    for (const Platform::SystemInterface& interface : Platform::systemInterfaces()) {
-        if (interface.firstSystem > NSProcessInfo.processInfo.operatingSystemVersion.majorVersion) {
-            report.add(Verdict::told, title(interface), u"from macOS %1"_s.arg(interface.firstSystem));
-        } else {
-            report.check(isThere(interface), title(interface));
-        }
-    }
-}
-
 void checkDock(SelfTestReport& report) {
-    Platform::MacOSPreferences dock;
+    MacOSPreferences dock;
     report.check(dock.synchronize(), u"The Dock's preferences synchronize"_s);
     for (const QString& key : {u"persistent-apps"_s, u"persistent-others"_s, u"show-recents"_s}) {
         const std::optional<PropertyList> value = dock.copyValue(key);
@@ -84,26 +43,26 @@ void checkDock(SelfTestReport& report) {
             report.add(Verdict::told, u"The Dock's "_s + key, u"absent"_s);
             continue;
         }
-        const Platform::Owner there = Platform::makePropertyList(*value);
-        const std::optional<PropertyList> back = there ? Platform::propertyList(there.borrow()) : std::nullopt;
+        const Owner there = makePropertyList(*value);
+        const std::optional<PropertyList> back = there ? propertyList(there.borrow()) : std::nullopt;
         report.check(back == value, u"The Dock's "_s + key,
                      value->array() == nullptr ? QString() : u"%1 items"_s.arg(value->array()->size()));
     }
-    report.check(Platform::PosixProcesses().run(u"/usr/bin/pgrep"_s, {u"-x"_s, u"Dock"_s}) == 0, u"The Dock runs"_s);
+    report.check(QtProcesses().run(u"/usr/bin/pgrep"_s, {u"-x"_s, u"Dock"_s}) == 0, u"The Dock runs"_s);
 }
 
 void checkApplications(SelfTestReport& report) {
-    Platform::MacOSBundles bundles;
+    MacOSBundles bundles;
     const QString finder = u"com.apple.finder"_s;
     const std::optional<QString> path = bundles.path(finder);
     report.check(path.has_value(), u"The workspace knows the Finder"_s, path.value_or(QString()));
     if (path) {
         report.check(bundles.identifier(*path) == finder, u"Its bundle has its identifier"_s);
         report.check(!bundles.displayName(*path).isEmpty(), u"It has a display name"_s, bundles.displayName(*path));
-        report.check(Platform::MacOSImages().applicationIcon(*path, 64).has_value(), u"It has an icon"_s);
+        report.check(MacOSImages().applicationIcon(*path, 64).has_value(), u"It has an icon"_s);
     }
 
-    Platform::MacOSFolders folders;
+    MacOSFolders folders;
     report.check(!folders.home().isEmpty(), u"The home folder"_s, folders.home());
     report.check(!folders.applicationSupport().isEmpty(), u"The application support folder"_s,
                  folders.applicationSupport());
@@ -113,7 +72,7 @@ void checkApplications(SelfTestReport& report) {
     qsizetype known = 0;
     qsizetype dated = 0;
     for (const QString& application : applications) {
-        const std::optional<DockCore::Metadata::Item> item = Platform::MacOSMetadata().item(application);
+        const std::optional<DockCore::Metadata::Item> item = MacOSMetadata().item(application);
         known += item.has_value() ? 1 : 0;
         dated += item && (item->usedDates || item->lastUsedDate) ? 1 : 0;
     }
@@ -123,13 +82,13 @@ void checkApplications(SelfTestReport& report) {
 }
 
 void checkSession(SelfTestReport& report) {
-    Platform::MacOSWorkspace workspace;
+    MacOSWorkspace workspace;
     const std::optional<Kelvane::RunningApplication> front = workspace.frontApplication();
     report.add(Verdict::told, u"In front"_s,
                front ? front->bundleID.value_or(front->name.value_or(u"without a name"_s)) : u"nothing"_s);
     const auto idle = workspace.sinceLastInput();
     report.add(Verdict::told, u"Since the last input"_s, idle ? u"%1 s"_s.arg(idle->count(), 0, 'f', 1) : u"unknown"_s);
-    report.add(Verdict::told, u"Opens at login"_s, Platform::MacOSLoginItem().isEnabled() ? u"yes"_s : u"no"_s);
+    report.add(Verdict::told, u"Opens at login"_s, MacOSLoginItem().isEnabled() ? u"yes"_s : u"no"_s);
     for (const QString& symbol : {u"dock.rectangle"_s, u"pause.circle"_s, u"square.stack.3d.up"_s, u"gearshape"_s}) {
         NSImage* image = [NSImage imageWithSystemSymbolName:symbol.toNSString() accessibilityDescription:nil];
         report.check(image != nil, u"The system draws "_s + symbol);
@@ -142,9 +101,8 @@ int runSelfTest() {
     SelfTestReport report;
     @autoreleasepool {
         tellSystem(report);
-        checkInterfaces(report);
         checkDock(report);
-        Platform::MacOSPreferences own(u"org.kelvane.Kelvane"_s);
+        MacOSPreferences own(u"org.kelvane.Kelvane"_s);
         checkPreferences(report, own);
         checkApplications(report);
         checkSession(report);
@@ -152,3 +110,5 @@ int runSelfTest() {
     QTextStream(stdout) << report.text();
     return report.hasFailed() ? 1 : 0;
 }
+
+} // namespace Platform

@@ -11,14 +11,12 @@ Owner<CFStringRef> makeString(const QString& text) {
 
 Owner<CFPropertyListRef> makePropertyList(const DockCore::PropertyList& value) {
     const QByteArray bytes = value.serialize(DockCore::PropertyList::Format::binary);
-    if (bytes.isEmpty()) {
+    if (bytes.isEmpty())
         return {};
-    }
     const Owner data(CFDataCreate(kCFAllocatorDefault, reinterpret_cast<const UInt8*>(bytes.constData()),
                                   static_cast<CFIndex>(bytes.size())));
-    if (!data) {
+    if (!data)
         return {};
-    }
     return Owner<CFPropertyListRef>(
         CFPropertyListCreateWithData(kCFAllocatorDefault, data.borrow(), kCFPropertyListImmutable, nullptr, nullptr));
 }
@@ -26,17 +24,15 @@ Owner<CFPropertyListRef> makePropertyList(const DockCore::PropertyList& value) {
 std::optional<DockCore::PropertyList> propertyList(CFPropertyListRef value) {
     const Owner data(
         CFPropertyListCreateData(kCFAllocatorDefault, value, kCFPropertyListBinaryFormat_v1_0, 0, nullptr));
-    if (!data) {
+    if (!data)
         return std::nullopt;
-    }
     return DockCore::PropertyList::parse(QByteArray(reinterpret_cast<const char*>(CFDataGetBytePtr(data.borrow())),
                                                     static_cast<qsizetype>(CFDataGetLength(data.borrow()))));
 }
 
 std::optional<QDateTime> date(CFTypeRef value) {
-    if (value == nullptr || CFGetTypeID(value) != CFDateGetTypeID()) {
+    if (value == nullptr || CFGetTypeID(value) != CFDateGetTypeID())
         return std::nullopt;
-    }
     // CoreFoundation counts seconds from the first moment of 2001.
     constexpr double secondsFrom1970To2001 = 978307200;
     const double seconds = CFDateGetAbsoluteTime(static_cast<CFDateRef>(value)) + secondsFrom1970To2001;
@@ -44,16 +40,14 @@ std::optional<QDateTime> date(CFTypeRef value) {
 }
 
 std::optional<QList<QDateTime>> dates(CFTypeRef value) {
-    if (value == nullptr || CFGetTypeID(value) != CFArrayGetTypeID()) {
+    if (value == nullptr || CFGetTypeID(value) != CFArrayGetTypeID())
         return std::nullopt;
-    }
     const auto array = static_cast<CFArrayRef>(value);
     QList<QDateTime> result;
     for (CFIndex index = 0; index < CFArrayGetCount(array); ++index) {
         const std::optional<QDateTime> element = date(CFArrayGetValueAtIndex(array, index));
-        if (!element) {
+        if (!element)
             return std::nullopt;
-        }
         result.append(*element);
     }
     return result;

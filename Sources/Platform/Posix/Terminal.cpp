@@ -4,7 +4,7 @@
 
 #include <unistd.h>
 
-namespace Kelvane::Terminal {
+namespace Platform::Terminal {
 
 bool showsColours() {
     return isatty(STDOUT_FILENO) == 1 && qgetenv("NO_COLOR").isEmpty() && qgetenv("TERM") != "dumb";
@@ -14,4 +14,4 @@ uint userID() {
     return getuid();
 }
 
-} // namespace Kelvane::Terminal
+} // namespace Platform::Terminal

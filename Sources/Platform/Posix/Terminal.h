@@ -2,11 +2,11 @@
 
 #include <QtGlobal>
 
-namespace Kelvane::Terminal {
+namespace Platform::Terminal {
 
 /// Whether standard output goes to a terminal that shows colours. Any thread may ask.
 bool showsColours();
 /// The user this process acts for.
 uint userID();
 
-} // namespace Kelvane::Terminal
+} // namespace Platform::Terminal

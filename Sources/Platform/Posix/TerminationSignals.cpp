@@ -5,6 +5,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+namespace Platform {
+
 namespace {
 
 /// The end that the handler writes to; the only thing that it may touch besides errno.
@@ -63,3 +65,5 @@ void TerminationSignals::receive() {
     while (read(m_sockets[1], &signal, 1) == 1)
         Q_EMIT received(signal);
 }
+
+} // namespace Platform

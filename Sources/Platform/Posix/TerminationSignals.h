@@ -6,10 +6,12 @@
 #include <array>
 #include <csignal>
 
+namespace Platform {
+
 /// Turns the signals that ask a process to end (SIGTERM, SIGINT, SIGHUP) into one Qt signal on the main thread, so that
 /// it can save and leave by itself. A signal that the parent has set to be ignored stays ignored. One a process; its
 /// end brings the former handling back.
-class TerminationSignals : public QObject {
+class TerminationSignals final : public QObject {
     Q_OBJECT
 
 public:
@@ -28,3 +30,5 @@ private:
     QSocketNotifier m_notifier;
     std::array<struct sigaction, handled.size()> m_former = {};
 };
+
+} // namespace Platform

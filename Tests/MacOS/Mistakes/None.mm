@@ -7,7 +7,8 @@
 #import <ServiceManagement/ServiceManagement.h>
 
 // What the programs install, under the names that they know it by.
-static_assert(std::is_same_v<SystemServices, MacOSServices> && std::is_same_v<SystemSession, MacOSSession>);
+static_assert(std::is_same_v<Platform::SystemServices, Platform::MacOSServices> &&
+              std::is_same_v<Platform::SystemSession, Platform::MacOSSession>);
 
 namespace {
 Platform::Owner<CFPropertyListRef> copyAppValue(const Platform::PreferenceKey& key,

@@ -1,9 +1,8 @@
 #include "Platform/Linux/LinuxPreferences.h"
 
-#include "Support/Files.h"
-
-#include "Platform/Posix/FullDisk.h"
 #include "Platform/PreferencesContract.h"
+#include "Support/Files.h"
+#include "Support/FullDisk.h"
 
 #include <QDir>
 #include <QFile>
@@ -27,7 +26,7 @@ class LinuxPreferencesTest : public PreferencesContract {
             write(PropertyList{values}.serialize(PropertyList::Format::binary));
         }
         bool synchronizeRefused() override {
-            const FullDisk fullDisk;
+            const FullDisk fullDisk(0);
             return m_preferences.synchronize();
         }
 

@@ -69,7 +69,7 @@ private:
     quint32 processOf(const QString& program);
     quint32 bundledWindow(const QString& name, const QByteArray& identifier);
 
-    LinuxServices m_system;
+    Platform::LinuxServices m_system;
     std::unique_ptr<PrivateDesktop> m_desktop;
     std::unique_ptr<QTemporaryDir> m_applications;
     std::unique_ptr<StandInWindows> m_windows;

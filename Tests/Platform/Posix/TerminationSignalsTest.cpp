@@ -5,6 +5,8 @@
 
 #include <csignal>
 
+using Platform::TerminationSignals;
+
 class TerminationSignalsTest : public QObject {
     Q_OBJECT
 

@@ -27,7 +27,6 @@ __attribute__((objc_root_class)) @interface NSObject <NSObject> // objectivec/ns
 + (instancetype)alloc;                                          // objectivec/nsobject-swift.class/alloc
 - (instancetype)init;                                           // objectivec/nsobject-swift.class/init()
 + (Class)class;                                                 // objectivec/nsobject-swift.class/class
-+ (BOOL)instancesRespondToSelector:(SEL)name;                   // objectivec/nsobject-swift.class/instancesrespond(to:)
 @end
 
 typedef struct { // nsfastenumerationstate
@@ -121,10 +120,7 @@ typedef struct { // operatingsystemversion
 @interface NSProcessInfo : NSObject                               // processinfo
 @property(class, readonly, strong) NSProcessInfo* processInfo;    // processinfo/processinfo
 @property(readonly, copy) NSString* operatingSystemVersionString; // processinfo/operatingsystemversionstring
-@property(readonly) NSOperatingSystemVersion operatingSystemVersion; // processinfo/operatingsystemversion
 @end
 
-extern "C" Class _Nullable NSClassFromString(NSString* name); // nsclassfromstring(_:)
-extern "C" SEL NSSelectorFromString(NSString* name);          // nsselectorfromstring(_:)
 
 CF_ASSUME_NONNULL_END

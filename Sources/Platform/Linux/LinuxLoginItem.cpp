@@ -1,4 +1,4 @@
-#include "Platform/Linux/AutostartLoginItem.h"
+#include "Platform/Linux/LinuxLoginItem.h"
 
 #include "DockCore/Error.h"
 #include "DockCore/Storage/AtomicFile.h"
@@ -41,12 +41,12 @@ bool says(const QString& content, QStringView line) {
 
 } // namespace
 
-QString AutostartLoginItem::path() {
+QString LinuxLoginItem::path() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            u"/autostart/org.kelvane.Kelvane.desktop"_s;
 }
 
-bool AutostartLoginItem::isEnabled() {
+bool LinuxLoginItem::isEnabled() {
     QFile file(path());
     if (!file.open(QIODevice::ReadOnly))
         return false;
@@ -55,7 +55,7 @@ bool AutostartLoginItem::isEnabled() {
     return !says(content, u"Hidden=true") && !says(content, u"X-GNOME-Autostart-enabled=false");
 }
 
-std::optional<QString> AutostartLoginItem::setEnabled(bool enabled) {
+std::optional<QString> LinuxLoginItem::setEnabled(bool enabled) {
     const QString entry = path();
     if (!enabled) {
         QFile file(entry);

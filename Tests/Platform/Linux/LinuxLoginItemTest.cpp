@@ -1,4 +1,4 @@
-#include "Platform/Linux/AutostartLoginItem.h"
+#include "Platform/Linux/LinuxLoginItem.h"
 
 #include "Support/Files.h"
 
@@ -10,7 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-class LinuxAutostartLoginItemTest : public LoginItemContract {
+class LinuxLoginItemTest : public LoginItemContract {
     Q_OBJECT
 
     class Desktop : public User {
@@ -40,7 +40,7 @@ class LinuxAutostartLoginItemTest : public LoginItemContract {
 
     private:
         QTemporaryDir m_config;
-        Platform::AutostartLoginItem m_loginItem;
+        Platform::LinuxLoginItem m_loginItem;
     };
     std::unique_ptr<User> makeUser() override { return std::make_unique<Desktop>(); }
 
@@ -79,5 +79,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(LinuxAutostartLoginItemTest)
-#include "AutostartLoginItemTest.moc"
+QTEST_GUILESS_MAIN(LinuxLoginItemTest)
+#include "LinuxLoginItemTest.moc"

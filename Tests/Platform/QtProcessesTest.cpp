@@ -1,4 +1,4 @@
-#include "Platform/Posix/PosixProcesses.h"
+#include "Platform/QtProcesses.h"
 
 #include "Platform/ProcessesContract.h"
 
@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-class PosixProcessesTest : public ProcessesContract {
+class QtProcessesTest : public ProcessesContract {
     Q_OBJECT
 
     class RealComputer : public Computer {
@@ -37,7 +37,7 @@ class PosixProcessesTest : public ProcessesContract {
 
     private:
         QTemporaryDir m_directory;
-        Platform::PosixProcesses m_processes;
+        Platform::QtProcesses m_processes;
     };
     std::unique_ptr<Computer> makeComputer() override { return std::make_unique<RealComputer>(); }
 
@@ -140,5 +140,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PosixProcessesTest)
-#include "PosixProcessesTest.moc"
+QTEST_GUILESS_MAIN(QtProcessesTest)
+#include "QtProcessesTest.moc"

@@ -5,7 +5,7 @@
 namespace Platform {
 
 /// The login item as desktops on Linux know it: an entry in the user's autostart folder. It asks the file each time.
-class AutostartLoginItem : public Kelvane::LoginItem {
+class LinuxLoginItem final : public Kelvane::LoginItem {
 public:
     bool isEnabled() override;
     std::optional<QString> setEnabled(bool enabled) override;
