@@ -2,6 +2,7 @@
 
 #include "DockCore/AppCatalog.h"
 #include "DockCore/Error.h"
+#include "DockCore/Storage/BoundedFile.h"
 #include "DockCore/Storage/JSONFile.h"
 #include "DockCore/Storage/Paths.h"
 #include "DockCore/Storage/PropertyList.h"
@@ -14,6 +15,7 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using DockCore::BoundedFile;
 using DockCore::PropertyList;
 
 namespace Platform {
@@ -147,18 +149,17 @@ std::optional<QString> LinuxBundles::identifier(const QString& path) {
             known = *reading;
         }
     }
-    if (known) {
-        const std::optional<FileStamp> stamp = FileStamp::of(file);
-        if (stamp && stamp->isUnchangedSince(known->stamp)) {
-            return known->identifier;
-        }
+    // Taken before the content is read: a file that changes in between then leaves a stamp that is out of date.
+    const std::optional<FileStamp> stamp = FileStamp::of(file);
+    if (known && stamp && stamp->isUnchangedSince(known->stamp)) {
+        return known->identifier;
     }
-    const FileContent content = FileContent::of(file, largestInfo);
-    const bool isRead = content.state == FileContent::State::read;
+    const BoundedFile content = BoundedFile::read(file, largestInfo);
+    const bool isRead = stamp && content.state == BoundedFile::State::read;
     const std::optional<QString> identifier = isRead ? identifierIn(content.bytes) : std::nullopt;
     const std::lock_guard guard(m_lock);
     if (isRead) {
-        m_readings.insert(bundle, {.stamp = content.stamp, .identifier = identifier});
+        m_readings.insert(bundle, {.stamp = *stamp, .identifier = identifier});
     } else {
         m_readings.remove(bundle);
     }
