@@ -4,6 +4,7 @@
 #include "DockCore/Error.h"
 #include "DockCore/Storage/BoundedFile.h"
 #include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/JSONForm.h"
 #include "DockCore/Storage/Paths.h"
 #include "DockCore/Storage/PropertyList.h"
 #include "Platform/Linux/LinuxFolders.h"
@@ -115,7 +116,7 @@ QString LinuxBundles::memoryFile() {
 
 QStringList LinuxBundles::remembered() const {
     const std::optional<QJsonValue> kept = DockCore::JSONFile::read(m_memory());
-    return kept ? DockCore::JSONFile::strings(*kept).value_or(QStringList()) : QStringList();
+    return kept ? DockCore::JSONForm<QStringList>::read(*kept).value_or(QStringList()) : QStringList();
 }
 
 void LinuxBundles::remember(const QString& path) {
