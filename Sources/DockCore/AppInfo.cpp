@@ -1,14 +1,21 @@
 #include "DockCore/AppInfo.h"
 
 #include "DockCore/Ports/Bundles.h"
-#include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/JSONRecord.h"
 
 #include <QHashFunctions>
-#include <QJsonObject>
 
 using namespace Qt::StringLiterals;
 
 namespace DockCore {
+
+namespace {
+constexpr auto appKeys = [](auto& keys, auto& app) {
+    keys.required(u"bundleID", app.bundleID);
+    keys.required(u"name", app.name);
+    keys.required(u"path", app.path);
+};
+} // namespace
 
 std::optional<AppInfo> AppInfo::fromBundle(const QString& path, Bundles& bundles) {
     const std::optional<QString> bundleID = bundles.identifier(path);
@@ -22,17 +29,11 @@ std::optional<AppInfo> AppInfo::fromBundle(const QString& path, Bundles& bundles
 }
 
 QJsonValue AppInfo::toJson() const {
-    return QJsonObject{{u"bundleID"_s, bundleID}, {u"name"_s, name}, {u"path"_s, path}};
+    return JSONRecord::write(*this, appKeys);
 }
 
 std::optional<AppInfo> AppInfo::fromJson(const QJsonValue& json) {
-    const QJsonObject object = json.toObject();
-    const auto bundleID = JSONFile::string(object["bundleID"_L1]);
-    const auto name = JSONFile::string(object["name"_L1]);
-    const auto path = JSONFile::string(object["path"_L1]);
-    if (!bundleID || !name || !path)
-        return std::nullopt;
-    return AppInfo{*bundleID, *name, *path};
+    return JSONRecord::read<AppInfo>(json, appKeys);
 }
 
 size_t qHash(const AppInfo& app, size_t seed) {

@@ -1,14 +1,34 @@
 #include "DockCore/Profile.h"
 
-#include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/JSONRecord.h"
 
 #include <QHashFunctions>
-#include <QJsonArray>
-#include <QJsonObject>
 
 using namespace Qt::StringLiterals;
 
 namespace DockCore {
+
+template <>
+struct JSONForm<UsageWindow> {
+    static QJsonValue write(UsageWindow window) { return days(window); }
+    static std::optional<UsageWindow> read(const QJsonValue& json) {
+        const std::optional<qint64> days = JSONForm<qint64>::read(json);
+        return days ? usageWindow(*days) : std::nullopt;
+    }
+};
+
+namespace {
+constexpr auto profileKeys = [](auto& keys, auto& profile) {
+    keys.required(u"id", profile.id);
+    keys.required(u"name", profile.name);
+    keys.required(u"symbol", profile.symbol);
+    keys.required(u"pinned", profile.pinned);
+    keys.required(u"excluded", profile.excluded);
+    keys.required(u"adaptiveSlots", profile.adaptiveSlots);
+    keys.required(u"window", profile.window);
+    keys.required(u"separatePinned", profile.separatePinned);
+};
+} // namespace
 
 Profile Profile::make(const QString& name, const QString& symbol, const QStringList& pinned,
                       const QStringList& excluded, qint64 adaptiveSlots, UsageWindow window, bool separatePinned) {
@@ -26,32 +46,11 @@ const QStringList& Profile::symbols() {
 }
 
 QJsonValue Profile::toJson() const {
-    return QJsonObject{
-        {u"id"_s, uuidString(id)},
-        {u"name"_s, name},
-        {u"symbol"_s, symbol},
-        {u"pinned"_s, QJsonArray::fromStringList(pinned)},
-        {u"excluded"_s, QJsonArray::fromStringList(excluded)},
-        {u"adaptiveSlots"_s, adaptiveSlots},
-        {u"window"_s, days(window)},
-        {u"separatePinned"_s, separatePinned},
-    };
+    return JSONRecord::write(*this, profileKeys);
 }
 
 std::optional<Profile> Profile::fromJson(const QJsonValue& json) {
-    const QJsonObject object = json.toObject();
-    const auto id = uuidFromString(object["id"_L1].toString());
-    const auto name = JSONFile::string(object["name"_L1]);
-    const auto symbol = JSONFile::string(object["symbol"_L1]);
-    const auto pinned = JSONFile::strings(object["pinned"_L1]);
-    const auto excluded = JSONFile::strings(object["excluded"_L1]);
-    const auto adaptiveSlots = JSONFile::integer(object["adaptiveSlots"_L1]);
-    const auto windowDays = JSONFile::integer(object["window"_L1]);
-    const auto window = windowDays ? usageWindow(*windowDays) : std::nullopt;
-    const auto separatePinned = JSONFile::boolean(object["separatePinned"_L1]);
-    if (!id || !name || !symbol || !pinned || !excluded || !adaptiveSlots || !window || !separatePinned)
-        return std::nullopt;
-    return Profile{*id, *name, *symbol, *pinned, *excluded, *adaptiveSlots, *window, *separatePinned};
+    return JSONRecord::read<Profile>(json, profileKeys);
 }
 
 size_t qHash(const Profile& profile, size_t seed) {
@@ -60,6 +59,14 @@ size_t qHash(const Profile& profile, size_t seed) {
     seed = qHashMulti(seed, profile.excluded.size());
     seed = qHashRange(profile.excluded.begin(), profile.excluded.end(), seed);
     return qHashMulti(seed, profile.adaptiveSlots, days(profile.window), profile.separatePinned);
+}
+
+QJsonValue JSONForm<QUuid>::write(const QUuid& id) {
+    return uuidString(id);
+}
+
+std::optional<QUuid> JSONForm<QUuid>::read(const QJsonValue& json) {
+    return uuidFromString(json.toString());
 }
 
 QString uuidString(const QUuid& id) {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "DockCore/Storage/JSONForm.h"
 #include "DockCore/UsageWindow.h"
 
-#include <QJsonValue>
 #include <QString>
 #include <QStringList>
 #include <QUuid>
@@ -44,5 +44,11 @@ size_t qHash(const Profile& profile, size_t seed = 0);
 /// The identifier as files and people see it: upper-case, without braces.
 QString uuidString(const QUuid& id);
 std::optional<QUuid> uuidFromString(const QString& text);
+
+template <>
+struct JSONForm<QUuid> {
+    static QJsonValue write(const QUuid& id);
+    static std::optional<QUuid> read(const QJsonValue& json);
+};
 
 } // namespace DockCore

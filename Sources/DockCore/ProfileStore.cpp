@@ -7,8 +7,6 @@
 #include "DockCore/Storage/JSONFile.h"
 #include "DockCore/Storage/Paths.h"
 
-#include <QJsonArray>
-
 #include <algorithm>
 #include <utility>
 
@@ -19,22 +17,12 @@ namespace DockCore {
 namespace {
 /// All the profiles in the file; none when one of them cannot be read.
 QList<Profile> profilesIn(const QString& path) {
-    const std::optional<QJsonValue> json = JSONFile::read(path);
-    if (!json || !json->isArray())
-        return {};
-    QList<Profile> profiles;
-    for (const QJsonValue element : json->toArray()) {
-        const std::optional<Profile> profile = Profile::fromJson(element);
-        if (!profile)
-            return {};
-        profiles.append(*profile);
-    }
-    return profiles;
+    const QJsonValue json = JSONFile::read(path).value_or(QJsonValue());
+    return JSONForm<QList<Profile>>::read(json).value_or(QList<Profile>());
 }
 
 AppSettings settingsIn(const QString& path) {
-    const std::optional<QJsonValue> json = JSONFile::read(path);
-    return json ? AppSettings::fromJson(*json).value_or(AppSettings()) : AppSettings();
+    return AppSettings::fromJson(JSONFile::read(path).value_or(QJsonValue())).value_or(AppSettings());
 }
 
 void saveIgnoringErrors(const QJsonValue& value, const QString& path) {
@@ -117,10 +105,7 @@ bool ProfileStore::remove(QUuid profile) {
 }
 
 void ProfileStore::saveProfiles() const {
-    QJsonArray array;
-    for (const Profile& profile : profiles)
-        array.append(profile.toJson());
-    saveIgnoringErrors(array, m_profilesFile);
+    saveIgnoringErrors(JSONForm<QList<Profile>>::write(profiles), m_profilesFile);
 }
 
 void ProfileStore::saveSettings() const {

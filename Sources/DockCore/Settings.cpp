@@ -1,14 +1,32 @@
 #include "DockCore/Settings.h"
 
 #include "DockCore/Profile.h"
-#include "DockCore/Storage/JSONFile.h"
-
-#include <QJsonArray>
-#include <QJsonObject>
+#include "DockCore/Storage/JSONRecord.h"
 
 using namespace Qt::StringLiterals;
 
 namespace DockCore {
+
+template <>
+struct JSONForm<AutoUpdate> {
+    static QJsonValue write(AutoUpdate interval) { return static_cast<int>(interval); }
+    static std::optional<AutoUpdate> read(const QJsonValue& json) {
+        const std::optional<qint64> seconds = JSONForm<qint64>::read(json);
+        return seconds ? autoUpdate(*seconds) : std::nullopt;
+    }
+};
+
+namespace {
+constexpr auto settingsKeys = [](auto& keys, auto& settings) {
+    keys.required(u"onboarded", settings.onboarded);
+    keys.optional(u"activeProfileID", settings.activeProfileID);
+    keys.required(u"autoUpdate", settings.autoUpdate);
+    keys.required(u"trackingEnabled", settings.trackingEnabled);
+    keys.required(u"autoPaused", settings.autoPaused);
+    keys.optional(u"lastAppliedSignature", settings.lastAppliedSignature);
+    keys.optional(u"lastApplied", settings.lastApplied);
+};
+} // namespace
 
 const QList<AutoUpdate>& allAutoUpdates() {
     static const QList<AutoUpdate> intervals = {AutoUpdate::off, AutoUpdate::hourly, AutoUpdate::every4Hours,
@@ -39,43 +57,11 @@ QString title(AutoUpdate interval) {
 }
 
 QJsonValue AppSettings::toJson() const {
-    QJsonObject object = {
-        {u"onboarded"_s, onboarded},
-        {u"autoUpdate"_s, static_cast<qint64>(autoUpdate)},
-        {u"trackingEnabled"_s, trackingEnabled},
-        {u"autoPaused"_s, autoPaused},
-    };
-    if (activeProfileID)
-        object.insert("activeProfileID"_L1, uuidString(*activeProfileID));
-    if (lastAppliedSignature)
-        object.insert("lastAppliedSignature"_L1, QJsonArray::fromStringList(*lastAppliedSignature));
-    if (lastApplied)
-        object.insert("lastApplied"_L1, JSONFile::dateString(*lastApplied));
-    return object;
+    return JSONRecord::write(*this, settingsKeys);
 }
 
 std::optional<AppSettings> AppSettings::fromJson(const QJsonValue& json) {
-    const QJsonObject object = json.toObject();
-    const auto onboarded = JSONFile::boolean(object["onboarded"_L1]);
-    const auto seconds = JSONFile::integer(object["autoUpdate"_L1]);
-    const auto interval = seconds ? DockCore::autoUpdate(*seconds) : std::nullopt;
-    const auto trackingEnabled = JSONFile::boolean(object["trackingEnabled"_L1]);
-    const auto autoPaused = JSONFile::boolean(object["autoPaused"_L1]);
-    if (!onboarded || !interval || !trackingEnabled || !autoPaused)
-        return std::nullopt;
-
-    const QJsonValue profileID = object["activeProfileID"_L1];
-    const auto activeProfileID = uuidFromString(profileID.toString());
-    const QJsonValue signature = object["lastAppliedSignature"_L1];
-    const auto lastAppliedSignature = JSONFile::strings(signature);
-    const QJsonValue applied = object["lastApplied"_L1];
-    const auto lastApplied = JSONFile::date(applied);
-    if ((!activeProfileID && !JSONFile::isAbsent(profileID)) ||
-        (!lastAppliedSignature && !JSONFile::isAbsent(signature)) || (!lastApplied && !JSONFile::isAbsent(applied)))
-        return std::nullopt;
-
-    return AppSettings{*onboarded,  activeProfileID,      *interval,  *trackingEnabled,
-                       *autoPaused, lastAppliedSignature, lastApplied};
+    return JSONRecord::read<AppSettings>(json, settingsKeys);
 }
 
 } // namespace DockCore

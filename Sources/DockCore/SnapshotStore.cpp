@@ -5,11 +5,10 @@
 #include "DockCore/Ports/Clock.h"
 #include "DockCore/Storage/AtomicFile.h"
 #include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/JSONRecord.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonObject>
 #include <QUuid>
 
 #include <algorithm>
@@ -35,44 +34,30 @@ bool isFileName(const QString& id) {
     return !id.isEmpty() && !id.startsWith(u'.') && !id.contains(u'/') && !id.contains(QChar::Null);
 }
 
+/// Empty when one of the snapshots in it cannot be read.
 QList<Snapshot> readIndex(const QString& path) {
-    const auto json = JSONFile::read(path);
-    if (!json || !json->isArray())
-        return {};
-    QList<Snapshot> snapshots;
-    const QJsonArray records = json->toArray();
-    for (const QJsonValue record : records) {
-        const auto snapshot = Snapshot::fromJson(record);
-        if (!snapshot || !isFileName(snapshot->id))
-            return {};
-        snapshots.append(*snapshot);
-    }
-    return snapshots;
+    const auto snapshots = JSONForm<QList<Snapshot>>::read(JSONFile::read(path).value_or(QJsonValue()));
+    const auto hasFileName = [](const Snapshot& snapshot) { return isFileName(snapshot.id); };
+    return snapshots && std::ranges::all_of(*snapshots, hasFileName) ? *snapshots : QList<Snapshot>();
 }
+
+constexpr auto snapshotKeys = [](auto& keys, auto& snapshot) {
+    keys.required(u"id", snapshot.id);
+    keys.required(u"date", snapshot.date);
+    keys.required(u"reason", snapshot.reason);
+    keys.required(u"bundleIDs", snapshot.bundleIDs);
+    keys.required(u"signature", snapshot.signature);
+    keys.required(u"isOriginal", snapshot.isOriginal);
+};
 
 } // namespace
 
 QJsonValue Snapshot::toJson() const {
-    return QJsonObject{
-        {u"id"_s, id},
-        {u"date"_s, JSONFile::dateString(date)},
-        {u"reason"_s, reason},
-        {u"bundleIDs"_s, QJsonArray::fromStringList(bundleIDs)},
-        {u"signature"_s, QJsonArray::fromStringList(signature)},
-        {u"isOriginal"_s, isOriginal},
-    };
+    return JSONRecord::write(*this, snapshotKeys);
 }
 
 std::optional<Snapshot> Snapshot::fromJson(const QJsonValue& json) {
-    const QJsonValue id = json[u"id"];
-    const auto date = JSONFile::date(json[u"date"]);
-    const QJsonValue reason = json[u"reason"];
-    const auto bundleIDs = JSONFile::strings(json[u"bundleIDs"]);
-    const auto signature = JSONFile::strings(json[u"signature"]);
-    const QJsonValue isOriginal = json[u"isOriginal"];
-    if (!id.isString() || !date || !reason.isString() || !bundleIDs || !signature || !isOriginal.isBool())
-        return std::nullopt;
-    return Snapshot{id.toString(), *date, reason.toString(), *bundleIDs, *signature, isOriginal.toBool()};
+    return JSONRecord::read<Snapshot>(json, snapshotKeys);
 }
 
 SnapshotStore::SnapshotStore(const QString& folder, DockStore& dock, Clock& clock)
@@ -187,11 +172,7 @@ void SnapshotStore::unlist(const QString& id) {
 
 /// Writes the list and then removes the files that it no longer names; `m_changing` is held.
 void SnapshotStore::saveIndex() {
-    QJsonArray records;
-    const QList<Snapshot> snapshots = all();
-    for (const Snapshot& snapshot : snapshots)
-        records.append(snapshot.toJson());
-    JSONFile::save(records, m_folder + u"/index.json"_s);
+    JSONFile::save(JSONForm<QList<Snapshot>>::write(all()), m_folder + u"/index.json"_s);
     for (const QString& id : std::exchange(m_unlisted, {}))
         QFile::remove(statePath(id));
 }

@@ -126,6 +126,15 @@ private Q_SLOTS:
         QCOMPARE(AppSettings::fromJson(settings.toJson())->lastApplied,
                  QDateTime(QDate(2026, 3, 1), QTime(14, 5, 9), Qt::UTC));
     }
+
+    void dateOfAClockGoneWrongKeepsTheRecordReadable() {
+        AppSettings settings = full();
+        settings.lastApplied = QDateTime(QDate(10000, 1, 1), QTime(0, 0), Qt::UTC);
+        const auto read = AppSettings::fromJson(settings.toJson());
+        QVERIFY(read);
+        QCOMPARE(read->lastApplied, QDateTime(QDate(9999, 12, 31), QTime(23, 59, 59), Qt::UTC));
+        QCOMPARE(read->activeProfileID, settings.activeProfileID);
+    }
 };
 
 QTEST_GUILESS_MAIN(SettingsTest)

@@ -6,6 +6,7 @@
 #include "Support/FakeServices.h"
 #include "Support/Files.h"
 #include "Support/FullDisk.h"
+#include "Support/Strictness.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -107,6 +108,7 @@ private Q_SLOTS:
     void readsOneRecordStrictly_data();
     void readsOneRecordStrictly();
     void writesARecordAsItReadsIt();
+    void dateOfAClockGoneWrongKeepsTheListReadable();
     void badIndexOpensEmpty_data();
     void badIndexOpensEmpty();
     void captureReplacesABadIndex();
@@ -389,15 +391,12 @@ void SnapshotStoreTest::refusedRestoreKeepsTheSafetySnapshot() {
 }
 
 void SnapshotStoreTest::readsOneRecordStrictly_data() {
-    QTest::addColumn<QJsonValue>("json");
-    QTest::addColumn<bool>("isRead");
+    Strictness::addRows(record(), {});
     const auto changed = [](const QString& key, const QJsonValue& value) {
         QJsonObject object = record();
         object[key] = value;
         return QJsonValue(object);
     };
-    QTest::newRow("a whole record") << QJsonValue(record()) << true;
-    QTest::newRow("an extra key") << changed(u"colour"_s, 5) << true;
     QTest::newRow("an offset instead of Z") << changed(u"date"_s, u"2024-05-06T11:15:00+02:00"_s) << true;
     QTest::newRow("empty lists and texts") << QJsonValue([] {
         QJsonObject object = record();
@@ -406,27 +405,13 @@ void SnapshotStoreTest::readsOneRecordStrictly_data() {
         object[u"signature"_s] = QJsonArray();
         return object;
     }()) << true;
-    const QStringList keys = record().keys();
-    for (const QString& key : keys) {
-        QJsonObject without = record();
-        without.remove(key);
-        QTest::addRow("no %s", qPrintable(key)) << QJsonValue(without) << false;
-        QTest::addRow("null as %s", qPrintable(key)) << changed(key, QJsonValue::Null) << false;
-        QTest::addRow("a number as %s", qPrintable(key)) << changed(key, 1) << false;
-        QTest::addRow("an object as %s", qPrintable(key)) << changed(key, QJsonObject()) << false;
-    }
-    QTest::newRow("a text as a list") << changed(u"bundleIDs"_s, u"a"_s) << false;
-    QTest::newRow("a number in a list") << changed(u"signature"_s, QJsonArray{u"a"_s, 1}) << false;
-    QTest::newRow("a text as a truth value") << changed(u"isOriginal"_s, u"true"_s) << false;
     QTest::newRow("a fraction of a second") << changed(u"date"_s, u"2024-05-06T09:15:00.5Z"_s) << false;
     QTest::newRow("a date without a time") << changed(u"date"_s, u"2024-05-06"_s) << false;
-    QTest::newRow("an array") << QJsonValue(QJsonArray{record()}) << false;
-    QTest::newRow("a text") << QJsonValue(u"x"_s) << false;
 }
 
 void SnapshotStoreTest::readsOneRecordStrictly() {
     QFETCH(const QJsonValue, json);
-    QTEST(Snapshot::fromJson(json).has_value(), "isRead");
+    QTEST(Snapshot::fromJson(json).has_value(), "reads");
 }
 
 void SnapshotStoreTest::writesARecordAsItReadsIt() {
@@ -440,6 +425,15 @@ void SnapshotStoreTest::writesARecordAsItReadsIt() {
                             false};
     QCOMPARE(*snapshot, expected);
     QCOMPARE(snapshot->toJson(), QJsonValue(record()));
+}
+
+void SnapshotStoreTest::dateOfAClockGoneWrongKeepsTheListReadable() {
+    m_world->clock.set(QDateTime(QDate(10000, 1, 1), QTime(12, 0), Qt::UTC));
+    SnapshotStore store = m_world->snapshotStore(folder());
+    const Snapshot snapshot = capture(store);
+    const QList<Snapshot> read = m_world->snapshotStore(folder()).all();
+    QCOMPARE(ids(read), QStringList{snapshot.id});
+    QCOMPARE(read.first().date, QDateTime(QDate(9999, 12, 31), QTime(23, 59, 59), Qt::UTC));
 }
 
 void SnapshotStoreTest::badIndexOpensEmpty_data() {

@@ -496,6 +496,26 @@ private Q_SLOTS:
         QCOMPARE(UsageStore(path()).trackingSince(), now());
     }
 
+    void clockPastTheYear9999KeepsTheFileReadable() {
+        const Fakes::TimeZone zone("UTC");
+        const QDateTime future(QDate(10000, 2, 1), QTime(12, 0), Qt::UTC);
+        m_world->clock.set(future);
+        UsageStore store(path());
+        store.addSeconds(1, mail, u"Mail"_s, future);
+        store.save(m_world->clock.now());
+        const UsageStore other(path());
+        QCOMPARE(other.trackingSince(), utc(u"9999-12-31T23:59:59Z"_s));
+        QCOMPARE(other.name(mail), u"Mail"_s);
+        QCOMPARE(other.day(u"9999-12-31"_s)->seconds.value(mail), 1.0);
+        QCOMPARE(other.totals(UsageWindow::week, future), (QHash<QString, UsageTotals>{{mail, {1, 0, 1}}}));
+        QCOMPARE(UsageStore::keys(2, future), (QStringList{u"9999-12-31"_s, u"9999-12-30"_s}));
+    }
+
+    void daysBeforeTheYear1HaveNoKey() {
+        const Fakes::TimeZone zone("UTC");
+        QCOMPARE(UsageStore::keys(4, utc(u"0001-01-02T12:00:00Z"_s)), (QStringList{u"0001-01-02"_s, u"0001-01-01"_s}));
+    }
+
     void ofADuplicateDayTheLastCounts() {
         write(R"({"version":1,"names":{},"days":{"2026-03-11":{"seconds":{"a":1},"activations":{}},)"
               R"("2026-03-11":{"seconds":{"a":2},"activations":{}}}})");

@@ -1,6 +1,7 @@
 #include "DockCore/Storage/AtomicFile.h"
 
 #include "DockCore/Error.h"
+#include "DockCore/Storage/BoundedFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -19,15 +20,12 @@ FileError saveError(const QString& path, const QString& reason) {
 
 /// The file is already what saving would make of it.
 bool holds(const QString& path, const QByteArray& bytes, AtomicFile::Access access) {
-    const QFileInfo info(path);
-    if (!info.isFile() || info.size() != bytes.size())
-        return false;
     constexpr auto others = QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ExeGroup |
                             QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther;
-    if (access == AtomicFile::Access::ownerOnly && (info.permissions() & others))
+    if (access == AtomicFile::Access::ownerOnly && (QFile::permissions(path) & others))
         return false;
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) && file.read(bytes.size()) == bytes;
+    const BoundedFile file = BoundedFile::read(path, bytes.size());
+    return file.state == BoundedFile::State::read && file.bytes == bytes;
 }
 
 } // namespace

@@ -1,11 +1,10 @@
 #include "DockCore/Storage/PropertyList.h"
 
 #include "DockCore/Storage/BinaryPropertyListWriter.h"
+#include "DockCore/Storage/BoundedFile.h"
 #include "DockCore/Storage/PropertyListGuard.h"
 #include "DockCore/Storage/PropertyListNode.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QtEndian>
 
 #include <algorithm>
@@ -278,14 +277,7 @@ PropertyList::Format PropertyList::format(const QByteArray& bytes) {
 }
 
 std::optional<PropertyList::Dictionary> PropertyList::readDictionary(const QString& path) {
-    // Anything but a regular file could keep us waiting, or never end.
-    if (const QFileInfo info(path); !info.isFile() || info.size() > largestFile)
-        return std::nullopt;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    // Not more than the file has, since room for all that is asked for is made first.
-    const std::optional<PropertyList> list = parse(file.read(qMin(file.size(), largestFile) + 1));
+    const std::optional<PropertyList> list = parse(BoundedFile::read(path, largestFile).bytes);
     if (!list || !list->dictionary())
         return std::nullopt;
     return *list->dictionary();

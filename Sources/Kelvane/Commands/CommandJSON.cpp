@@ -3,7 +3,7 @@
 #include "DockCore/DockDiff.h"
 #include "DockCore/DockStore.h"
 #include "DockCore/Ports/Clock.h"
-#include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/JSONForm.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -56,9 +56,9 @@ QJsonObject status(const AppModel& model) {
                        {u"diff"_s, diff(model.current(), model.proposal())},
                        {u"matches"_s, model.proposalMatchesDock()}};
     if (model.usage().trackingSince())
-        object[u"trackingSince"] = JSONFile::dateString(*model.usage().trackingSince());
+        object[u"trackingSince"] = JSONForm<QDateTime>::write(*model.usage().trackingSince());
     if (settings.lastApplied)
-        object[u"lastApplied"] = JSONFile::dateString(*settings.lastApplied);
+        object[u"lastApplied"] = JSONForm<QDateTime>::write(*settings.lastApplied);
     return object;
 }
 
@@ -79,7 +79,7 @@ QJsonObject score(const AppScore& score) {
     object[u"spotlightDays"] = score.spotlightDays;
     object[u"score"] = score.score;
     if (score.lastUsed)
-        object[u"lastUsed"] = JSONFile::dateString(*score.lastUsed);
+        object[u"lastUsed"] = JSONForm<QDateTime>::write(*score.lastUsed);
     return object;
 }
 

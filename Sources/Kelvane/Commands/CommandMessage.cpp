@@ -1,6 +1,6 @@
 #include "Kelvane/Commands/CommandMessage.h"
 
-#include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/JSONForm.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -40,7 +40,7 @@ std::optional<CommandRequest> CommandRequest::fromLine(const QByteArray& text) {
         return std::nullopt;
     if (object->value(u"show").toBool())
         return CommandRequest{.kind = Kind::showWindow};
-    const std::optional<QStringList> arguments = JSONFile::strings(object->value(u"arguments"));
+    const std::optional<QStringList> arguments = JSONForm<QStringList>::read(object->value(u"arguments"));
     if (!arguments || !object->value(u"colour").isBool())
         return std::nullopt;
     return CommandRequest{.arguments = *arguments,

@@ -2,6 +2,7 @@
 
 #include "DockCore/Error.h"
 #include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/JSONForm.h"
 #include "DockCore/Storage/Paths.h"
 
 #include <QJsonObject>
@@ -14,7 +15,7 @@ using namespace DockCore;
 namespace {
 
 std::optional<int> member(const QJsonObject& object, const QString& name) {
-    const std::optional<qint64> value = JSONFile::integer(object[name]);
+    const std::optional<qint64> value = JSONForm<qint64>::read(object[name]);
     // Farther than any desktop reaches, and safe to add up.
     constexpr qint64 farthest = 1'000'000;
     return value && *value >= -farthest && *value <= farthest ? std::optional(static_cast<int>(*value)) : std::nullopt;

@@ -1,7 +1,7 @@
 #include "Platform/Linux/IconFile.h"
 
+#include "DockCore/Storage/BoundedFile.h"
 #include "DockCore/Storage/PropertyList.h"
-#include "Platform/Linux/FileContent.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -12,6 +12,7 @@
 #include <QtEndian>
 
 using namespace Qt::StringLiterals;
+using DockCore::BoundedFile;
 using DockCore::PropertyList;
 
 namespace Platform {
@@ -86,7 +87,7 @@ std::optional<QImage> container(const QByteArray& bytes, int size) {
 }
 
 QString named(const QString& bundle) {
-    const FileContent info = FileContent::of(bundle + u"/Contents/Info.plist"_s, largestInfo);
+    const BoundedFile info = BoundedFile::read(bundle + u"/Contents/Info.plist"_s, largestInfo);
     const std::optional<PropertyList> list = PropertyList::parse(info.bytes);
     const PropertyList::Dictionary* values = list ? list->dictionary() : nullptr;
     if (values == nullptr)

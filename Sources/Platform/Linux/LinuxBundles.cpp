@@ -1,7 +1,9 @@
 #include "Platform/Linux/LinuxBundles.h"
 
 #include "DockCore/Error.h"
+#include "DockCore/Storage/BoundedFile.h"
 #include "DockCore/Storage/JSONFile.h"
+#include "DockCore/Storage/JSONForm.h"
 #include "DockCore/Storage/PropertyList.h"
 #include "Platform/Linux/LinuxFolders.h"
 
@@ -12,6 +14,7 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using DockCore::BoundedFile;
 using DockCore::PropertyList;
 
 namespace Platform {
@@ -50,7 +53,7 @@ LinuxBundles::LinuxBundles(std::function<QStringList()> searchFolders, std::func
 
 QStringList LinuxBundles::remembered() const {
     const std::optional<QJsonValue> kept = DockCore::JSONFile::read(m_memory());
-    return kept ? DockCore::JSONFile::strings(*kept).value_or(QStringList()) : QStringList();
+    return kept ? DockCore::JSONForm<QStringList>::read(*kept).value_or(QStringList()) : QStringList();
 }
 
 void LinuxBundles::remember(const QString& path) {
@@ -79,17 +82,16 @@ std::optional<QString> LinuxBundles::identifier(const QString& path) {
         if (reading != m_readings.cend())
             known = *reading;
     }
-    if (known) {
-        const std::optional<FileStamp> stamp = FileStamp::of(file);
-        if (stamp && stamp->isUnchangedSince(known->stamp))
-            return known->identifier;
-    }
-    const FileContent content = FileContent::of(file, largestInfo);
-    const bool isRead = content.state == FileContent::State::read;
+    // Taken before the content is read: a file that changes in between then leaves a stamp that is out of date.
+    const std::optional<FileStamp> stamp = FileStamp::of(file);
+    if (known && stamp && stamp->isUnchangedSince(known->stamp))
+        return known->identifier;
+    const BoundedFile content = BoundedFile::read(file, largestInfo);
+    const bool isRead = stamp && content.state == BoundedFile::State::read;
     const std::optional<QString> identifier = isRead ? identifierIn(content.bytes) : std::nullopt;
     const std::lock_guard guard(m_lock);
     if (isRead)
-        m_readings.insert(bundle, {.stamp = content.stamp, .identifier = identifier});
+        m_readings.insert(bundle, {.stamp = *stamp, .identifier = identifier});
     else
         m_readings.remove(bundle);
     return identifier;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DockCore/Ports/Bundles.h"
-#include "Platform/Linux/FileContent.h"
+#include "Platform/Linux/FileStamp.h"
 
 #include <QHash>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "Platform/Linux/LinuxImages.h"
 
-#include "Platform/Linux/FileContent.h"
+#include "DockCore/Storage/BoundedFile.h"
 #include "Platform/Linux/IconFile.h"
 
 namespace Platform {
@@ -13,7 +13,7 @@ constexpr qint64 largestIcon = 32LL * 1024 * 1024;
 
 std::optional<QImage> LinuxImages::applicationIcon(const QString& path, int size) {
     const std::optional<QString> file = IconFile::inBundle(path);
-    return file ? IconFile::read(FileContent::of(*file, largestIcon).bytes, size) : std::nullopt;
+    return file ? IconFile::read(DockCore::BoundedFile::read(*file, largestIcon).bytes, size) : std::nullopt;
 }
 
 std::optional<QIcon> LinuxImages::symbol(const QString&, const QString&) {

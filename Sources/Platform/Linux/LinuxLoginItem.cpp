@@ -2,6 +2,7 @@
 
 #include "DockCore/Error.h"
 #include "DockCore/Storage/AtomicFile.h"
+#include "DockCore/Storage/BoundedFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -15,8 +16,8 @@ namespace Platform {
 
 namespace {
 
-/// No entry is longer; what is, was made to be.
-constexpr qint64 longestEntry = 65536;
+/// Upper bound for reading an autostart entry.
+constexpr qint64 largestEntry = 65536;
 
 /// A path as the "Exec" key takes it: in quotes, with what is special inside them escaped, percent signs doubled.
 QString quoted(const QString& path) {
@@ -47,12 +48,11 @@ QString LinuxLoginItem::path() {
 }
 
 bool LinuxLoginItem::isEnabled() {
-    QFile file(path());
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
+    const DockCore::BoundedFile entry = DockCore::BoundedFile::read(path(), largestEntry);
     // A settings tool turns an entry off by a word in it rather than by deleting it.
-    const QString content = QString::fromUtf8(file.read(longestEntry));
-    return !says(content, u"Hidden=true") && !says(content, u"X-GNOME-Autostart-enabled=false");
+    const QString content = QString::fromUtf8(entry.bytes);
+    return entry.state == DockCore::BoundedFile::State::read && !says(content, u"Hidden=true") &&
+           !says(content, u"X-GNOME-Autostart-enabled=false");
 }
 
 std::optional<QString> LinuxLoginItem::setEnabled(bool enabled) {

@@ -2,13 +2,14 @@
 
 #include "DockCore/Error.h"
 #include "DockCore/Storage/AtomicFile.h"
-#include "Platform/Linux/FileContent.h"
+#include "DockCore/Storage/BoundedFile.h"
 #include "Platform/Linux/LinuxFolders.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
+using DockCore::BoundedFile;
 using DockCore::PropertyList;
 
 namespace Platform {
@@ -74,13 +75,13 @@ void LinuxPreferences::setValue(const QString& key, const std::optional<Property
 void LinuxPreferences::load() {
     // The bytes are compared rather than the file's times: a Dock that puts its list back at once may leave equal
     // times.
-    const FileContent content = FileContent::of(m_path, largestFile);
-    if (content.state == FileContent::State::read && m_file == File::read && content.bytes == m_bytes)
+    const BoundedFile content = BoundedFile::read(m_path, largestFile);
+    if (content.state == BoundedFile::State::read && m_file == File::read && content.bytes == m_bytes)
         return;
     m_bytes.clear();
     m_values.clear();
-    if (content.state != FileContent::State::read) {
-        m_file = content.state == FileContent::State::missing ? File::missing : File::unreadable;
+    if (content.state != BoundedFile::State::read) {
+        m_file = content.state == BoundedFile::State::missing ? File::missing : File::unreadable;
         return;
     }
     m_file = File::unreadable;

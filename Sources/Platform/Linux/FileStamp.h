@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include <optional>
@@ -24,22 +23,6 @@ struct FileStamp {
     bool isSameFile(const FileStamp& other) const { return device == other.device && inode == other.inode; }
     /// The content is certainly what it was when `earlier` was taken.
     bool isUnchangedSince(const FileStamp& earlier) const;
-};
-
-/// A file's bytes, read whole. A plain value.
-struct FileContent {
-    enum class State {
-        missing,
-        /// Something is there, but it is no regular file, is too large or cannot be read.
-        unreadable,
-        read
-    };
-    State state = State::missing;
-    QByteArray bytes;
-    FileStamp stamp;
-
-    /// Reads at most `limit` bytes; never waits for another process, whatever lies at `path`.
-    static FileContent of(const QString& path, qint64 limit);
 };
 
 } // namespace Platform
