@@ -1,5 +1,6 @@
 #include "Platform/Linux/LinuxBundles.h"
 
+#include "DockCore/AppInfo.h"
 #include "DockCore/Error.h"
 #include "DockCore/Storage/JSONFile.h"
 #include "DockCore/Storage/PropertyList.h"
@@ -29,10 +30,6 @@ QString withoutTrailingSlashes(const QString& path) {
         --length;
     }
     return path.first(length);
-}
-
-bool isApplication(const QString& path) {
-    return path.endsWith(u".app"_s);
 }
 
 QString infoFile(const QString& bundle) {
@@ -72,7 +69,7 @@ void LinuxBundles::Index::Folder::list(const QString& path, Below below) {
     isListed = true;
     const QStringList entries = LinuxFolders().entries(path);
     for (const QString& entry : entries) {
-        if (isApplication(entry)) {
+        if (DockCore::isApplicationPath(entry)) {
             applications.append(entry);
         } else if (below == Below::search) {
             const std::optional<FileStamp> child = FileStamp::of(entry);
@@ -125,7 +122,7 @@ void LinuxBundles::remember(const QString& path) {
 
 std::optional<QString> LinuxBundles::identifier(const QString& path) {
     const QString bundle = withoutTrailingSlashes(path);
-    if (!isApplication(bundle)) {
+    if (!DockCore::isApplicationPath(bundle)) {
         return std::nullopt;
     }
     const QString file = infoFile(bundle);
