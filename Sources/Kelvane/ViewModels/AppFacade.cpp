@@ -39,7 +39,7 @@ AppFacade* AppFacade::create(QQmlEngine* engine, QJSEngine*) {
 AppFacade& AppFacade::of(const QQmlEngine& engine) {
     auto* facade = qobject_cast<AppFacade*>(engine.parent());
     if (facade == nullptr)
-        qFatal("The engine belongs to no facade");
+        qFatal("The parent of the engine is no AppFacade");
     return *facade;
 }
 

@@ -40,7 +40,7 @@ class AppFacade : public QObject {
     Q_PROPERTY(QString profileName READ profileName NOTIFY activeProfileChanged)
     Q_PROPERTY(QString profileSymbol READ profileSymbol NOTIFY activeProfileChanged)
     /// The titles of the windows over which usage is measured.
-    Q_PROPERTY(QStringList usageWindows READ usageWindows CONSTANT)
+    Q_PROPERTY(QList<QString> usageWindows READ usageWindows CONSTANT)
     /// Empty while there is no toast.
     Q_PROPERTY(QString toastText READ toastText NOTIFY toastChanged)
     Q_PROPERTY(bool toastIsError READ toastIsError NOTIFY toastChanged)

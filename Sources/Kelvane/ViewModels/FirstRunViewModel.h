@@ -27,8 +27,8 @@ class FirstRunViewModel : public QObject {
     Q_PROPERTY(Kelvane::RowListModel* choices READ choices CONSTANT)
     /// The icons of the Dock as it was saved first, in two rows of about equal length where one would be too long; the
     /// second may be empty.
-    Q_PROPERTY(QStringList savedFirstIcons READ savedFirstIcons NOTIFY changed)
-    Q_PROPERTY(QStringList savedSecondIcons READ savedSecondIcons NOTIFY changed)
+    Q_PROPERTY(QList<QString> savedFirstIcons READ savedFirstIcons NOTIFY changed)
+    Q_PROPERTY(QList<QString> savedSecondIcons READ savedSecondIcons NOTIFY changed)
     Q_PROPERTY(QString savedNames READ savedNames NOTIFY changed)
 
 public:

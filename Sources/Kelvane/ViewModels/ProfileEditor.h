@@ -21,7 +21,7 @@ class ProfileEditor : public QObject {
     QML_ANONYMOUS
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY changed)
     Q_PROPERTY(QString symbol READ symbol WRITE setSymbol NOTIFY changed)
-    Q_PROPERTY(QStringList symbols READ symbols CONSTANT)
+    Q_PROPERTY(QList<QString> symbols READ symbols CONSTANT)
     Q_PROPERTY(Kelvane::RowListModel* pinned READ pinned CONSTANT)
     Q_PROPERTY(Kelvane::RowListModel* excluded READ excluded CONSTANT)
     Q_PROPERTY(int usageSlots READ usageSlots WRITE setUsageSlots NOTIFY changed)

@@ -19,7 +19,7 @@ class SettingsViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(QStringList schedules READ schedules CONSTANT)
+    Q_PROPERTY(QList<QString> schedules READ schedules CONSTANT)
     Q_PROPERTY(int scheduleIndex READ scheduleIndex WRITE setScheduleIndex NOTIFY changed)
     Q_PROPERTY(bool opensAtLogin READ opensAtLogin WRITE setOpensAtLogin NOTIFY changed)
     Q_PROPERTY(bool tracksUsage READ tracksUsage WRITE setTracksUsage NOTIFY changed)

@@ -47,7 +47,7 @@ QString TileRow::markName() const {
 }
 
 QString TileRow::accessibleName() const {
-    /// By the order of `Mark`.
+    // By the order of `Mark`.
     static const std::array changes = {QString(), u", added"_s, u", leaving"_s, u", moved forward"_s,
                                        u", moved back"_s};
     return name + changes.at(static_cast<size_t>(mark)) + (isPinned ? u", always in the Dock"_s : QString());
