@@ -5,6 +5,7 @@
 #include "CommandLine.h"
 #include "Fixture.h"
 #include "Frames.h"
+#include "Kelvane/Pane.h"
 #include "Logic.h"
 #include "Platform/Linux/LinuxServices.h"
 #include "Support/PrivateDesktop.h"
@@ -89,7 +90,11 @@ QList<Figure> frameFigures() {
         figures.append({.name = name + u", median frame"_s, .pair = frames.middle(kinds), .floorName = floorName});
     };
     const QString newRows = u"new rows in a bare list"_s;
-    add(u"switch panes"_s, {u"dock"_s, u"usage"_s, u"profiles"_s, u"history"_s, u"settings"_s}, newRows);
+    QStringList panes;
+    for (const Kelvane::PaneInfo& pane : Kelvane::allPanes()) {
+        panes.append(pane.name);
+    }
+    add(u"switch panes"_s, panes, newRows);
     add(u"switch the profile, 60 tiles"_s, {u"profile"_s}, newRows);
     add(u"show Usage with 500 rows"_s, {u"usage"_s}, newRows);
     add(u"scroll it"_s, {u"scroll"_s}, u"scroll a bare list"_s);

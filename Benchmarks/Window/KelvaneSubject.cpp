@@ -50,11 +50,11 @@ public:
         fill();
         QList<Step> steps;
         for (int round = 0; round < rounds; ++round) {
-            steps.append({u"usage"_s, [this] { m_model.setPane(Pane::usage); }});
-            steps.append({u"profiles"_s, [this] { m_model.setPane(Pane::profiles); }});
-            steps.append({u"history"_s, [this] { m_model.setPane(Pane::history); }});
-            steps.append({u"settings"_s, [this] { m_model.setPane(Pane::settings); }});
-            steps.append({u"dock"_s, [this] { m_model.setPane(Pane::dock); }});
+            // From the second pane round to the first, which is the one that shows.
+            for (qsizetype step = 1; step <= allPanes().size(); ++step) {
+                const qsizetype pane = step % allPanes().size();
+                steps.append({allPanes()[pane].name, [this, pane] { m_model.setPane(static_cast<Pane>(pane)); }});
+            }
         }
         for (int round = 0; round < rounds; ++round) {
             for (const Profile& profile : m_model.profiles()) {

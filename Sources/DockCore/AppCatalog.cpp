@@ -12,11 +12,6 @@ using namespace Qt::StringLiterals;
 namespace DockCore {
 
 namespace {
-bool isApplication(const QString& path) {
-    const QStringView name = QStringView(path).sliced(path.lastIndexOf(u'/') + 1);
-    return name.size() > 4 && name.endsWith(u".app");
-}
-
 void sortByName(QList<AppInfo>& apps) {
     QCollator collator;
     collator.setCaseSensitivity(Qt::CaseInsensitive);
@@ -61,7 +56,7 @@ QList<AppInfo> AppCatalog::scan() {
     QSet<QString> seen;
     for (const QString& folder : searchFolders(m_folders)) {
         for (const QString& path : m_folders.entries(folder)) {
-            if (!isApplication(path))
+            if (!isApplicationPath(path))
                 continue;
             const std::optional<AppInfo> app = AppInfo::fromBundle(path, m_bundles);
             if (!app || ignored().contains(app->bundleID) || seen.contains(app->bundleID))
@@ -103,7 +98,7 @@ std::optional<AppInfo> AppCatalog::info(const QString& bundleID) {
 }
 
 std::optional<AppInfo> AppCatalog::add(const QString& path) {
-    const std::optional<AppInfo> app = isApplication(path) ? AppInfo::fromBundle(path, m_bundles) : std::nullopt;
+    const std::optional<AppInfo> app = isApplicationPath(path) ? AppInfo::fromBundle(path, m_bundles) : std::nullopt;
     if (!app)
         return std::nullopt;
     m_bundles.remember(path);

@@ -40,4 +40,9 @@ size_t qHash(const AppInfo& app, size_t seed) {
     return qHashMulti(seed, app.bundleID, app.name, app.path);
 }
 
+bool isApplicationPath(QStringView path) {
+    const QStringView name = path.sliced(path.lastIndexOf(u'/') + 1);
+    return name.size() > 4 && name.endsWith(u".app");
+}
+
 } // namespace DockCore

@@ -28,4 +28,7 @@ struct AppInfo {
 
 size_t qHash(const AppInfo& app, size_t seed = 0);
 
+/// The path is that of an application folder: its last part is a name before ".app".
+bool isApplicationPath(QStringView path);
+
 } // namespace DockCore

@@ -63,14 +63,15 @@ QList<AppScore> Ranker::rank(const UsageStore& usage, UsageWindow window, AppCat
         const UsageTotals total = totals.value(candidate.key());
         const SpotlightUsage::Result opened =
             weight > 0 ? SpotlightUsage::lookup(*spotlight, app.path, window, now) : SpotlightUsage::Result();
-        const double score = total.seconds / 60 * pointsAMinute +
-                             pointsAnActivation * static_cast<double>(total.activations) +
-                             weight * static_cast<double>(opened.daysUsed);
+        const double minutePoints = total.seconds / 60 * pointsAMinute;
+        const double activationPoints = pointsAnActivation * static_cast<double>(total.activations);
+        const double spotlightPoints = weight * static_cast<double>(opened.daysUsed);
+        const double score = minutePoints + activationPoints + spotlightPoints;
         if (!(score > 0))
             continue;
-        entries.push_back(
-            {{app, total.seconds, total.activations, total.activeDays, opened.daysUsed, opened.lastUsed, score},
-             app.name.normalized(QString::NormalizationForm_C).toUtf8()});
+        entries.push_back({{app, total.seconds, total.activations, total.activeDays, opened.daysUsed, opened.lastUsed,
+                            score, minutePoints, activationPoints, spotlightPoints},
+                           app.name.normalized(QString::NormalizationForm_C).toUtf8()});
     }
     std::stable_sort(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
         return left.score.score == right.score.score ? left.name < right.name : left.score.score > right.score.score;

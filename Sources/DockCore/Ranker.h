@@ -24,7 +24,11 @@ struct AppScore {
     /// Days on which the operating system saw it opened; 0 when it was not asked.
     qint64 spotlightDays = 0;
     std::optional<QDateTime> lastUsed;
+    /// The sum of the three parts below, in their order.
     double score = 0;
+    double minutePoints = 0;
+    double activationPoints = 0;
+    double spotlightPoints = 0;
     bool operator==(const AppScore&) const = default;
 };
 

@@ -9,6 +9,7 @@
 #include "DockCore/SnapshotStore.h"
 #include "DockCore/Storage/Paths.h"
 #include "DockCore/UsageStore.h"
+#include "Kelvane/Pane.h"
 
 #include <QMap>
 #include <QObject>
@@ -45,9 +46,6 @@ struct Outcome {
     bool refused = false;
     bool operator==(const Outcome&) const = default;
 };
-
-/// The panes of the main window, in the sidebar's order.
-enum class Pane { dock, usage, profiles, history, settings };
 
 /// The driver of the application: it owns the stores and all state that menu, window and command line show, and only it
 /// rewrites the Dock. Slow work runs on a thread pool over copies; its results come back to the main thread, where

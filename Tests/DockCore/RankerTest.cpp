@@ -68,7 +68,8 @@ private Q_SLOTS:
         const AppInfo app = install(u"A"_s);
         m_usage->addSeconds(90, app.bundleID, {}, now());
         m_usage->addActivation(app.bundleID, {}, now());
-        QCOMPARE(rank(UsageWindow::week, Spotlight::exclude), (QList<AppScore>{{app, 90, 1, 1, 0, std::nullopt, 3.5}}));
+        QCOMPARE(rank(UsageWindow::week, Spotlight::exclude),
+                 (QList<AppScore>{{app, 90, 1, 1, 0, std::nullopt, 3.5, 1.5, 2, 0}}));
     }
 
     void anUntrackedApplicationScoresByItsSpotlightDays_data() {
@@ -85,7 +86,7 @@ private Q_SLOTS:
         track(tracked);
         const QList<AppScore> ranking = rank(UsageWindow::week, Spotlight::include);
         QCOMPARE(ranking.size(), 1);
-        QCOMPARE(ranking[0], (AppScore{app, 0, 0, 0, 3, now(), ranking[0].score}));
+        QCOMPARE(ranking[0], (AppScore{app, 0, 0, 0, 3, now(), ranking[0].score, 0, 0, ranking[0].score}));
         QCOMPARE(ranking[0].score, score);
     }
 
@@ -129,7 +130,7 @@ private Q_SLOTS:
         m_usage->addActivation(app.bundleID, {}, now());
         const QList<AppScore> ranking = rank(UsageWindow::week, Spotlight::include);
         QCOMPARE(ranking.size(), 1);
-        QCOMPARE(ranking[0], (AppScore{app, 120, 1, 4, 2, now(), ranking[0].score}));
+        QCOMPARE(ranking[0], (AppScore{app, 120, 1, 4, 2, now(), ranking[0].score, 2, 2, (1 - 4.0 / 7) * 10 * 2}));
         QCOMPARE(ranking[0].score, 120.0 / 60 + 2 * 1 + (1 - 4.0 / 7) * 10 * 2);
     }
 
@@ -300,6 +301,8 @@ private Q_SLOTS:
                 for (qsizetype i = 0; i < ranking.size(); ++i) {
                     const AppScore& score = ranking[i];
                     QVERIFY(score.score > 0);
+                    // To the last bit: the parts are what the score was added up from.
+                    QVERIFY(score.score == score.minutePoints + score.activationPoints + score.spotlightPoints);
                     QVERIFY(!AppCatalog::ignored().contains(score.app.bundleID));
                     QVERIFY(!seen.contains(score.app.bundleID));
                     seen.insert(score.app.bundleID);

@@ -2,6 +2,7 @@
 
 #include "DockCore/DockDiff.h"
 #include "DockCore/DockStore.h"
+#include "Kelvane/Counted.h"
 
 #include <QLocale>
 
@@ -23,10 +24,6 @@ QString inked(const QString& text, Ink ink, Colour colour) {
                                              {Ink::leaving, u"33"_s},
                                              {Ink::moved, u"34"_s}};
     return u"\x1b[%1m%2\x1b[0m"_s.arg(codes[ink], text);
-}
-
-QString counted(qsizetype count, const QString& noun) {
-    return u"%1 %2%3"_s.arg(QString::number(count), noun, count == 1 ? QString() : u"s"_s);
 }
 
 QString moment(const QDateTime& date) {

@@ -2,33 +2,21 @@
 
 #include "Kelvane/AppModel.h"
 #include "Kelvane/ViewModels/IconAddress.h"
-#include "Kelvane/ViewModels/ViewContext.h"
 
-#include <array>
+#include <QQmlEngine>
 
 namespace Kelvane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct PaneView {
-    QString name;
-    QString file;
-    /// It has a bar of its own along the window's edge.
-    bool hasBar;
-};
-/// By the order of `Pane`.
-const std::array<PaneView, 5> views = {
-    PaneView{u"dock"_s, u"DockPane.qml"_s, true}, PaneView{u"usage"_s, u"UsagePane.qml"_s, false},
-    PaneView{u"profiles"_s, u"ProfilesPane.qml"_s, true}, PaneView{u"history"_s, u"HistoryPane.qml"_s, false},
-    PaneView{u"settings"_s, u"SettingsPane.qml"_s, false}};
-const PaneView firstRun = {u"onboarding"_s, u"OnboardingView.qml"_s, true};
-
+const QString firstRunFile = u"OnboardingView.qml"_s;
 } // namespace
 
-AppFacade::AppFacade(AppModel& model)
-    : m_model(model) {
+AppFacade::AppFacade(AppModel& model, Desktop& desktop)
+    : m_model(model)
+    , m_desktop(desktop) {
+    m_panes.setRows(allPanes());
     connect(&model, &AppModel::paneChanged, this, &AppFacade::paneChanged);
     connect(&model, &AppModel::paneChanged, this, &AppFacade::contentChanged);
     connect(&model, &AppModel::settingsChanged, this, &AppFacade::settingsChanged);
@@ -42,17 +30,26 @@ AppFacade::AppFacade(AppModel& model)
     toastChange();
 }
 
-AppFacade* AppFacade::create(QQmlEngine*, QJSEngine*) {
-    return new AppFacade(ViewContext::current().model);
+AppFacade* AppFacade::create(QQmlEngine* engine, QJSEngine*) {
+    AppFacade* facade = &of(*engine);
+    QJSEngine::setObjectOwnership(facade, QJSEngine::CppOwnership);
+    return facade;
+}
+
+AppFacade& AppFacade::of(const QQmlEngine& engine) {
+    auto* facade = qobject_cast<AppFacade*>(engine.parent());
+    if (facade == nullptr)
+        qFatal("The parent of the engine is no AppFacade");
+    return *facade;
 }
 
 QString AppFacade::pane() const {
-    return views.at(static_cast<size_t>(m_model.pane())).name;
+    return info(m_model.pane()).name;
 }
 
 void AppFacade::setPane(const QString& pane) {
-    for (size_t index = 0; index < views.size(); ++index) {
-        if (views[index].name == pane)
+    for (qsizetype index = 0; index < allPanes().size(); ++index) {
+        if (allPanes()[index].name == pane)
             m_model.setPane(static_cast<Pane>(index));
     }
 }
@@ -62,12 +59,11 @@ bool AppFacade::isFirstRun() const {
 }
 
 QUrl AppFacade::contentSource() const {
-    const PaneView& view = isFirstRun() ? firstRun : views.at(static_cast<size_t>(m_model.pane()));
-    return QUrl(u"qrc:/qt/qml/Kelvane/"_s + view.file);
+    return QUrl(u"qrc:/qt/qml/Kelvane/"_s + (isFirstRun() ? firstRunFile : info(m_model.pane()).file));
 }
 
 bool AppFacade::paneHasBar() const {
-    return views.at(static_cast<size_t>(m_model.pane())).hasBar;
+    return info(m_model.pane()).hasBar;
 }
 
 void AppFacade::setContent(Content content) {
@@ -77,10 +73,6 @@ void AppFacade::setContent(Content content) {
 
 bool AppFacade::isWorking() const {
     return m_model.isWorking();
-}
-
-bool AppFacade::isCapturing() const {
-    return m_model.isCapturing();
 }
 
 bool AppFacade::isAutoPaused() const {
@@ -95,6 +87,13 @@ QString AppFacade::profileSymbol() const {
     return m_model.activeProfile().symbol;
 }
 
+QStringList AppFacade::usageWindows() const {
+    QStringList titles;
+    for (const DockCore::UsageWindow window : DockCore::allUsageWindows())
+        titles += title(window);
+    return titles;
+}
+
 QString AppFacade::toastText() const {
     return m_model.toast() ? m_model.toast()->text : QString();
 }
@@ -105,6 +104,10 @@ bool AppFacade::toastIsError() const {
 
 QString AppFacade::iconSource(const QString& bundleID, const QString& name) {
     return IconAddress{bundleID, name, {}}.url();
+}
+
+void AppFacade::resume() {
+    m_model.refreshAndResume();
 }
 
 void AppFacade::toastChange() {

@@ -1,9 +1,14 @@
 #pragma once
 
+#include "Kelvane/Pane.h"
+#include "Kelvane/ViewModels/RowListOf.h"
+
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QTimer>
 #include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
 class QJSEngine;
 class QQmlEngine;
@@ -11,12 +16,17 @@ class QQmlEngine;
 namespace Kelvane {
 
 class AppModel;
+class Desktop;
 
 /// The application as every view sees it: `App` in QML. It shows the model's state in the words of the window and hands
-/// each action to one operation of the model; what only one pane needs is in that pane's own view model.
-/// Main thread only; the engine owns it.
+/// each action to one operation of the model; what only one pane needs is in that pane's own view model. The engine
+/// that draws a window is a child of the window's facade, which is where the other view models find their model. Main
+/// thread only.
 class AppFacade : public QObject {
     Q_OBJECT
+    QML_NAMED_ELEMENT(App)
+    QML_SINGLETON
+    Q_PROPERTY(Kelvane::RowListModel* panes READ panes CONSTANT)
     /// The raw value of the selected pane: "dock", "usage", "profiles", "history" or "settings".
     Q_PROPERTY(QString pane READ pane WRITE setPane NOTIFY paneChanged)
     /// The first-run flow takes the place of the panes.
@@ -26,37 +36,45 @@ class AppFacade : public QObject {
     /// The pane has a bar of its own along the window's edge.
     Q_PROPERTY(bool paneHasBar READ paneHasBar NOTIFY contentChanged)
     Q_PROPERTY(bool working READ isWorking NOTIFY isWorkingChanged)
-    /// Pictures are being taken: what would still move is to be where it ends.
-    Q_PROPERTY(bool capturing READ isCapturing NOTIFY contentChanged)
     Q_PROPERTY(bool autoPaused READ isAutoPaused NOTIFY settingsChanged)
     Q_PROPERTY(QString profileName READ profileName NOTIFY activeProfileChanged)
     Q_PROPERTY(QString profileSymbol READ profileSymbol NOTIFY activeProfileChanged)
+    /// The titles of the windows over which usage is measured.
+    Q_PROPERTY(QList<QString> usageWindows READ usageWindows CONSTANT)
     /// Empty while there is no toast.
     Q_PROPERTY(QString toastText READ toastText NOTIFY toastChanged)
     Q_PROPERTY(bool toastIsError READ toastIsError NOTIFY toastChanged)
 
 public:
-    explicit AppFacade(AppModel& model);
-    static AppFacade* create(QQmlEngine*, QJSEngine*);
+    AppFacade(AppModel& model, Desktop& desktop);
+    static AppFacade* create(QQmlEngine* engine, QJSEngine*);
 
+    /// The facade of the window that `engine` draws.
+    static AppFacade& of(const QQmlEngine& engine);
+    AppModel& model() { return m_model; }
+    Desktop& desktop() { return m_desktop; }
+
+    RowListOf<PaneInfo>* panes() { return &m_panes; }
     QString pane() const;
     void setPane(const QString& pane);
     bool isFirstRun() const;
     QUrl contentSource() const;
     bool paneHasBar() const;
-    /// What the window shows: what the settings ask for, or one of the two for the sake of a picture.
+    /// What the window shows: by the settings, or one of the two for a picture.
     enum class Content { bySettings, firstRun, panes };
     void setContent(Content content);
     bool isWorking() const;
-    bool isCapturing() const;
     bool isAutoPaused() const;
     QString profileName() const;
     QString profileSymbol() const;
+    QStringList usageWindows() const;
     QString toastText() const;
     bool toastIsError() const;
 
     /// The source of an image of this application; `name` gives the stand-in its initial.
     Q_INVOKABLE static QString iconSource(const QString& bundleID, const QString& name);
+    /// Ends the pause of automatic updates.
+    Q_INVOKABLE void resume();
 
     /// How long a toast stays.
     static constexpr int toastMilliseconds = 3500;
@@ -73,8 +91,10 @@ private:
     void toastChange();
 
     AppModel& m_model;
+    Desktop& m_desktop;
+    RowListOf<PaneInfo> m_panes;
     Content m_content = Content::bySettings;
-    /// Runs while a toast is shown, anew for each.
+    /// Runs while a toast is shown; each toast restarts it.
     QTimer m_toastTimer;
 };
 

@@ -4,6 +4,7 @@
 #include "Kelvane/AppModel.h"
 
 #include <QDir>
+#include <QSet>
 
 #include <algorithm>
 #include <utility>
@@ -13,9 +14,53 @@ using namespace Qt::StringLiterals;
 
 namespace Kelvane {
 
-AppPicker::AppPicker(AppModel& model, ProfileEditor& editor, QObject* parent)
-    : QObject(parent)
-    , m_model(model)
+namespace {
+
+constexpr qsizetype mostUsedCount = 8;
+
+/// Letters without their accents and case, so that "pages" finds "Pagès".
+QString folded(const QString& text) {
+    QString result;
+    for (const QChar character : text.normalized(QString::NormalizationForm_KD)) {
+        if (character.category() != QChar::Mark_NonSpacing)
+            result += character;
+    }
+    return result.toCaseFolded();
+}
+
+/// Every word of the search must occur in the name.
+bool matches(const AppInfo& app, const QStringList& words) {
+    const QString name = folded(app.name);
+    return std::ranges::all_of(words, [&name](const QString& word) { return name.contains(word); });
+}
+
+QList<AppPickerRow> rows(const QList<AppScore>& ranking, const QList<AppInfo>& installed, const QStringList& added,
+                         const QString& search) {
+    const QStringList words = folded(search).simplified().split(u' ', Qt::SkipEmptyParts);
+    QList<AppPickerRow> rows;
+    QSet<QString> above;
+    for (const AppScore& score : ranking.first(std::min(mostUsedCount, ranking.size()))) {
+        const AppInfo& app = score.app;
+        if (!matches(app, words))
+            continue;
+        above += app.bundleID;
+        rows.append({{}, app.bundleID, app.name, added.contains(app.bundleID)});
+    }
+    const QString heading = QString::number(rows.size()) + u" most used"_s;
+    for (AppPickerRow& row : rows)
+        row.section = heading;
+    for (const AppInfo& app : installed) {
+        const bool isShown = !words.isEmpty() && above.contains(app.bundleID);
+        if (!isShown && matches(app, words))
+            rows.append({u"All apps"_s, app.bundleID, app.name, added.contains(app.bundleID)});
+    }
+    return rows;
+}
+
+} // namespace
+
+AppPicker::AppPicker(AppModel& model, ProfileEditor& editor)
+    : m_model(model)
     , m_editor(editor) {
     connect(&model, &AppModel::rankingsChanged, this, &AppPicker::reload);
     connect(&editor, &ProfileEditor::changed, this, &AppPicker::reload);
@@ -47,12 +92,8 @@ void AppPicker::open(ProfileEditor::PickTarget target) {
 
 void AppPicker::reload() {
     const Profile profile = m_editor.profile();
-    QList<AppInfo> ranked;
-    const QList<AppScore> ranking = m_model.rankings().value(profile.window);
-    for (const AppScore& score : ranking)
-        ranked += score.app;
-    m_apps.setApps(ranked, m_model.installed(),
-                   m_target == ProfileEditor::PickTarget::pinned ? profile.pinned : profile.excluded, m_search);
+    const QStringList& added = m_target == ProfileEditor::PickTarget::pinned ? profile.pinned : profile.excluded;
+    m_apps.setRows(rows(m_model.rankings().value(profile.window), m_model.installed(), added, m_search));
     Q_EMIT appsChanged();
 }
 

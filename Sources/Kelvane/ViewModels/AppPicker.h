@@ -1,28 +1,31 @@
 #pragma once
 
-#include "Kelvane/ViewModels/AppPickerModel.h"
+#include "Kelvane/ViewModels/AppPickerRow.h"
 #include "Kelvane/ViewModels/ProfileEditor.h"
+#include "Kelvane/ViewModels/RowListOf.h"
 
 #include <QObject>
 #include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
 namespace Kelvane {
 
-/// Chooses applications for one list of the edited profile: from the installed ones, by search, or any bundle on disk.
-/// Main thread only.
+/// Chooses applications for one list of the edited profile: the most used ones, then all that are installed by name, or
+/// any bundle on disk. A search narrows both and shows no application twice. Main thread only.
 class AppPicker : public QObject {
     Q_OBJECT
-    Q_PROPERTY(Kelvane::AppPickerModel* apps READ apps CONSTANT)
+    QML_ANONYMOUS
+    Q_PROPERTY(Kelvane::RowListModel* apps READ apps CONSTANT)
     Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY searchChanged)
-    /// What was wrong with the bundle chosen last; empty when nothing was.
+    /// The error of the bundle chosen last; empty when there was none.
     Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY appsChanged)
     Q_PROPERTY(QUrl applicationsFolder READ applicationsFolder CONSTANT)
 
 public:
-    AppPicker(AppModel& model, ProfileEditor& editor, QObject* parent = nullptr);
+    AppPicker(AppModel& model, ProfileEditor& editor);
 
-    AppPickerModel* apps() { return &m_apps; }
+    RowListOf<AppPickerRow>* apps() { return &m_apps; }
     QString search() const { return m_search; }
     void setSearch(const QString& search);
     QString problem() const { return m_problem; }
@@ -50,7 +53,7 @@ private:
     AppModel& m_model;
     ProfileEditor& m_editor;
     ProfileEditor::PickTarget m_target = ProfileEditor::PickTarget::pinned;
-    AppPickerModel m_apps;
+    RowListOf<AppPickerRow> m_apps;
     QString m_search;
     QString m_problem;
 };

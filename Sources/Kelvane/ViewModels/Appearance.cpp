@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QFontInfo>
 #include <QGuiApplication>
+#include <QJSEngine>
 #include <QPalette>
 #include <QPointer>
 #include <QScreen>
@@ -24,6 +25,11 @@ Appearance& Appearance::shared() {
     if (!appearance)
         appearance = new Appearance(qGuiApp);
     return *appearance;
+}
+
+Appearance* Appearance::create(QQmlEngine*, QJSEngine*) {
+    QJSEngine::setObjectOwnership(&shared(), QJSEngine::CppOwnership);
+    return &shared();
 }
 
 bool Appearance::isDark() const {

@@ -2,31 +2,35 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 #include <optional>
 
+class QJSEngine;
+class QQmlEngine;
 class QWindow;
 
 namespace Kelvane {
 
-/// What the desktop asks of every colour and every text, read from the application's palette and font, which the
-/// desktop adapter keeps in step with the system. It knows no colour; those are in `Theme`. Main thread only.
+/// The desktop's appearance: dark mode, font, reduced motion and pixel ratio, read from the application's palette and
+/// font, which the desktop adapter updates. Colours are in `Theme`. Main thread only.
 class Appearance : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
     Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
-    Q_PROPERTY(QString family READ family NOTIFY fontChanged)
-    /// How much larger than usual the user wants text, from 1.
-    Q_PROPERTY(qreal textScale READ textScale NOTIFY fontChanged)
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY reducedMotionChanged)
-    /// Pixels a point where the window is, for images.
+    /// Pixels per point on the window's screen, for images.
     Q_PROPERTY(qreal pixelRatio READ pixelRatio NOTIFY pixelRatioChanged)
 
 public:
-    /// The one of the application object, which owns it.
+    /// The only instance; the application object owns it.
     static Appearance& shared();
+    static Appearance* create(QQmlEngine*, QJSEngine*);
 
     bool isDark() const;
     QString family() const;
+    /// How much larger than usual the user wants text, from 1.
     qreal textScale() const;
     bool reducedMotion() const;
     qreal pixelRatio() const { return m_pixelRatio; }
@@ -48,10 +52,10 @@ private:
     explicit Appearance(QObject* parent);
     void setPixelRatio(qreal pixelRatio);
 
-    /// Finding the font that is drawn with takes long, and every text asks.
+    /// Cached: resolving the font is slow, and every text item asks.
     mutable std::optional<qreal> m_textScale;
     qreal m_pixelRatio;
-    /// To the screen that the window is on.
+    /// The connection to the window's screen.
     QMetaObject::Connection m_screen;
 };
 

@@ -1,17 +1,11 @@
 #include "Kelvane/ViewModels/DockText.h"
 
+#include "Kelvane/Counted.h"
+
 namespace Kelvane {
 
 using namespace Qt::StringLiterals;
 using DockCore::UsageWindow;
-
-namespace {
-
-QString plural(qint64 count) {
-    return count == 1 ? QString() : u"s"_s;
-}
-
-} // namespace
 
 QString DockText::suggestion(qint64 pinnedApps, qint64 adaptiveSlots, UsageWindow window) {
     // "apps" even for one place.
@@ -19,22 +13,21 @@ QString DockText::suggestion(qint64 pinnedApps, qint64 adaptiveSlots, UsageWindo
         u"the "_s + QString::number(adaptiveSlots) + u" apps you used most in the "_s + title(window).toLower();
     if (pinnedApps == 0)
         return u"Made of "_s + usage;
-    return QString::number(pinnedApps) + u" always-there app"_s + plural(pinnedApps) + u", then "_s + usage;
+    return counted(pinnedApps, u"always-there app"_s) + u", then "_s + usage;
 }
 
 QString DockText::data(int trackedDays, UsageWindow window) {
     if (trackedDays == 0)
         return u"No tracked history yet, so suggestions use the days each app was opened, from macOS's own records. "
                u"They sharpen as Kelvane learns your week."_s;
-    QString text =
-        u"Based on "_s + QString::number(trackedDays) + u" day"_s + plural(trackedDays) + u" of tracked use"_s;
+    QString text = u"Based on "_s + counted(trackedDays, u"day"_s) + u" of tracked use"_s;
     if (trackedDays < days(window))
         text += u", topped up with macOS's record of when apps were opened"_s;
     return text + u". Everything stays on this Mac."_s;
 }
 
 QString DockText::count(qsizetype apps) {
-    return QString::number(apps) + u" apps in your Dock"_s;
+    return counted(apps, u"app"_s) + u" in your Dock"_s;
 }
 
 QString DockText::leaving(const QStringList& names) {

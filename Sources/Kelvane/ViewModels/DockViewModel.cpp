@@ -2,8 +2,8 @@
 
 #include "DockCore/Ports/Clock.h"
 #include "Kelvane/AppModel.h"
+#include "Kelvane/ViewModels/AppFacade.h"
 #include "Kelvane/ViewModels/DockText.h"
-#include "Kelvane/ViewModels/ViewContext.h"
 
 #include <QSet>
 
@@ -14,9 +14,8 @@ namespace Kelvane {
 using namespace Qt::StringLiterals;
 using DockCore::DockTile;
 
-DockViewModel::DockViewModel(AppModel& model, QObject* parent)
-    : QObject(parent)
-    , m_model(model) {
+DockViewModel::DockViewModel(AppModel& model)
+    : m_model(model) {
     connect(&model, &AppModel::currentChanged, this, &DockViewModel::updateTiles);
     connect(&model, &AppModel::proposalChanged, this, &DockViewModel::updateTiles);
     connect(&model, &AppModel::rankingsChanged, this, &DockViewModel::changed);
@@ -25,14 +24,13 @@ DockViewModel::DockViewModel(AppModel& model, QObject* parent)
     updateProfiles();
 }
 
-DockViewModel* DockViewModel::create(QQmlEngine*, QJSEngine*) {
-    return new DockViewModel(ViewContext::current().model);
+DockViewModel* DockViewModel::create(QQmlEngine* engine, QJSEngine*) {
+    return new DockViewModel(AppFacade::of(*engine).model());
 }
 
 int DockViewModel::activeRow() const {
     const QList<ProfileListRow>& rows = m_profiles.rows();
-    const auto active = std::find_if(rows.begin(), rows.end(), [](const ProfileListRow& row) { return row.isActive; });
-    return active == rows.end() ? -1 : static_cast<int>(active - rows.begin());
+    return static_cast<int>(std::ranges::find(rows, true, &ProfileListRow::isActive) - rows.begin());
 }
 
 QString DockViewModel::nowCaption() const {
@@ -80,12 +78,12 @@ bool DockViewModel::matches() const {
 }
 
 bool DockViewModel::isDense() const {
-    return std::max(m_now.appCount(), m_suggested.appCount()) > mostRoomy;
+    return TileRow::areDense(m_now.rows()) || TileRow::areDense(m_suggested.rows());
 }
 
 void DockViewModel::chooseRow(int row) {
     if (row >= 0 && row < m_profiles.rowCount())
-        m_model.activate(m_profiles.rows()[row].id, AppModel::Apply::no);
+        m_model.activate(m_model.profiles()[row].id, AppModel::Apply::no);
 }
 
 void DockViewModel::editProfile() {
@@ -96,21 +94,17 @@ void DockViewModel::apply() {
     m_model.refreshAndApply(AppModel::Notify::always);
 }
 
-void DockViewModel::resume() {
-    m_model.refreshAndResume();
-}
-
 void DockViewModel::updateTiles() {
     const QList<DockTile>& current = m_model.current();
     const QList<DockTile>& proposal = m_model.proposal();
     m_diff = m_model.proposedChange();
-    m_now.setTiles(TileListModel::current(current, m_diff));
-    m_suggested.setTiles(TileListModel::proposed(proposal, current, m_diff, m_model.activeProfile().pinned));
+    m_now.setRows(TileRow::current(current, m_diff));
+    m_suggested.setRows(TileRow::proposed(proposal, current, m_diff, m_model.activeProfile().pinned));
     Q_EMIT changed();
 }
 
 void DockViewModel::updateProfiles() {
-    m_profiles.setProfiles(m_model.profiles(), m_model.activeProfile().id);
+    m_profiles.setRows(ProfileListRow::listed(m_model.profiles(), m_model.activeProfile().id));
     updateTiles();
 }
 

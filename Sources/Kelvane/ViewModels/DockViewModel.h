@@ -1,11 +1,13 @@
 #pragma once
 
 #include "DockCore/DockDiff.h"
-#include "Kelvane/ViewModels/ProfileListModel.h"
-#include "Kelvane/ViewModels/TileListModel.h"
+#include "Kelvane/ViewModels/ProfileListRow.h"
+#include "Kelvane/ViewModels/RowListOf.h"
+#include "Kelvane/ViewModels/TileRow.h"
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 class QJSEngine;
 class QQmlEngine;
@@ -14,13 +16,15 @@ namespace Kelvane {
 
 class AppModel;
 
-/// What the Dock pane shows and does: the Dock as it is, the one the active profile suggests, and what lies between.
-/// Main thread only.
+/// State and actions of the Dock pane: the present Dock, the one that the active profile suggests, and their
+/// difference. Main thread only.
 class DockViewModel : public QObject {
     Q_OBJECT
-    Q_PROPERTY(Kelvane::TileListModel* now READ now CONSTANT)
-    Q_PROPERTY(Kelvane::TileListModel* suggested READ suggested CONSTANT)
-    Q_PROPERTY(Kelvane::ProfileListModel* profiles READ profiles CONSTANT)
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(Kelvane::RowListModel* now READ now CONSTANT)
+    Q_PROPERTY(Kelvane::RowListModel* suggested READ suggested CONSTANT)
+    Q_PROPERTY(Kelvane::RowListModel* profiles READ profiles CONSTANT)
     /// The row of the active profile.
     Q_PROPERTY(int activeRow READ activeRow NOTIFY changed)
     Q_PROPERTY(QString nowCaption READ nowCaption NOTIFY changed)
@@ -38,12 +42,12 @@ class DockViewModel : public QObject {
     Q_PROPERTY(bool dense READ isDense NOTIFY changed)
 
 public:
-    explicit DockViewModel(AppModel& model, QObject* parent = nullptr);
-    static DockViewModel* create(QQmlEngine*, QJSEngine*);
+    explicit DockViewModel(AppModel& model);
+    static DockViewModel* create(QQmlEngine* engine, QJSEngine*);
 
-    TileListModel* now() { return &m_now; }
-    TileListModel* suggested() { return &m_suggested; }
-    ProfileListModel* profiles() { return &m_profiles; }
+    RowListOf<TileRow>* now() { return &m_now; }
+    RowListOf<TileRow>* suggested() { return &m_suggested; }
+    RowListOf<ProfileListRow>* profiles() { return &m_profiles; }
     int activeRow() const;
     QString nowCaption() const;
     QString suggestedTitle() const;
@@ -58,14 +62,10 @@ public:
     bool matches() const;
     bool isDense() const;
 
-    /// Makes the profile the one that the pane suggests; the Dock stays.
+    /// Makes the profile active; the Dock stays.
     Q_INVOKABLE void chooseRow(int row);
     Q_INVOKABLE void editProfile();
     Q_INVOKABLE void apply();
-    Q_INVOKABLE void resume();
-
-    /// With more applications than this in one list, both are drawn dense.
-    static constexpr int mostRoomy = 27;
 
 Q_SIGNALS:
     void changed();
@@ -76,9 +76,9 @@ private:
 
     AppModel& m_model;
     DockCore::DockDiff m_diff;
-    TileListModel m_now;
-    TileListModel m_suggested;
-    ProfileListModel m_profiles;
+    RowListOf<TileRow> m_now;
+    RowListOf<TileRow> m_suggested;
+    RowListOf<ProfileListRow> m_profiles;
 };
 
 } // namespace Kelvane

@@ -1,10 +1,10 @@
 #include "Kelvane/ViewModels/FirstRunViewModel.h"
 
-#include "DockCore/DockDiff.h"
 #include "Kelvane/AppModel.h"
+#include "Kelvane/Counted.h"
+#include "Kelvane/ViewModels/AppFacade.h"
 #include "Kelvane/ViewModels/AppNames.h"
-#include "Kelvane/ViewModels/ProfileListModel.h"
-#include "Kelvane/ViewModels/ScheduleText.h"
+#include "Kelvane/ViewModels/ProfileListRow.h"
 
 #include <algorithm>
 
@@ -15,49 +15,45 @@ namespace Kelvane {
 
 namespace {
 
-QStringList apps(const QList<DockTile>& tiles) {
-    QStringList bundleIDs;
-    for (const DockTile& tile : tiles) {
-        if (tile.bundleID)
-            bundleIDs += *tile.bundleID;
-    }
-    return bundleIDs;
+constexpr qsizetype iconsPerChoice = 8;
+constexpr qsizetype iconsPerRow = 14;
+
+/// How many applications a profile fills in by usage, and over which window.
+QString line(const Profile& profile) {
+    const QString apps = profile.adaptiveSlots < 1 ? u"no apps"_s : counted(profile.adaptiveSlots, u"app"_s);
+    return u"With "_s + apps + u" by usage · "_s + title(profile.window);
 }
 
 } // namespace
 
-FirstRunViewModel::FirstRunViewModel(AppModel& model, QObject* parent)
-    : QObject(parent)
-    , m_model(model) {
+FirstRunViewModel::FirstRunViewModel(AppModel& model)
+    : m_model(model) {
     connect(&model, &AppModel::onboardingStepChanged, this, &FirstRunViewModel::stepChanged);
     connect(&model, &AppModel::profilesChanged, this, &FirstRunViewModel::reload);
     connect(&model, &AppModel::settingsChanged, this, &FirstRunViewModel::reload);
     connect(&model, &AppModel::proposalChanged, this, &FirstRunViewModel::reload);
     connect(&model, &AppModel::currentChanged, this, &FirstRunViewModel::changed);
     connect(&model, &AppModel::snapshotsChanged, this, &FirstRunViewModel::changed);
-    connect(&model, &AppModel::launchAtLoginChanged, this, &FirstRunViewModel::changed);
     reload();
+}
+
+FirstRunViewModel* FirstRunViewModel::create(QQmlEngine* engine, QJSEngine*) {
+    return new FirstRunViewModel(AppFacade::of(*engine).model());
 }
 
 void FirstRunViewModel::reload() {
     QList<ChoiceRow> choices;
     // Once the first run is done only pictures show them, and planning each profile at each change is work.
     if (!m_model.settings().onboarded || m_model.isCapturing()) {
-        const QList<ProfileListRow> listed = ProfileListModel::listed(m_model.profiles(), m_model.activeProfile().id);
+        const QList<ProfileListRow> listed = ProfileListRow::listed(m_model.profiles(), m_model.activeProfile().id);
         for (const ProfileListRow& shown : listed) {
             const Profile& profile = m_model.profiles()[choices.size()];
-            ChoiceRow row;
-            row.id = shown.id;
-            row.name = shown.title;
-            row.symbol = shown.symbol;
-            row.line = ChoiceListModel::line(profile);
-            row.bundleIDs = apps(m_model.plan(profile)).mid(0, iconsPerChoice);
-            row.icons = AppNames(m_model).icons(row.bundleIDs);
-            row.isChosen = shown.isActive;
-            choices += row;
+            const QStringList apps = bundleIDs(m_model.plan(profile)).mid(0, iconsPerChoice);
+            choices.append({shown.profileId, shown.title, shown.symbol, line(profile), AppNames(m_model).icons(apps),
+                            shown.isActive});
         }
     }
-    m_choices.setChoices(choices);
+    m_choices.setRows(choices);
     Q_EMIT changed();
 }
 
@@ -67,7 +63,7 @@ int FirstRunViewModel::step() const {
 
 QStringList FirstRunViewModel::savedApps() const {
     const auto original = std::ranges::find_if(m_model.snapshots(), &Snapshot::isOriginal);
-    return original == m_model.snapshots().end() ? apps(m_model.current()) : original->bundleIDs;
+    return original == m_model.snapshots().end() ? bundleIDs(m_model.current()) : original->bundleIDs;
 }
 
 QStringList FirstRunViewModel::savedFirstIcons() const {
@@ -81,44 +77,6 @@ QStringList FirstRunViewModel::savedSecondIcons() const {
 
 QString FirstRunViewModel::savedNames() const {
     return AppNames(m_model).names(savedApps()).join(u", "_s);
-}
-
-QString FirstRunViewModel::suggestionTitle() const {
-    return u"Suggested for "_s + m_model.activeProfile().name;
-}
-
-int FirstRunViewModel::addedCount() const {
-    return static_cast<int>(m_model.proposedChange().added.size());
-}
-
-int FirstRunViewModel::leavingCount() const {
-    return static_cast<int>(m_model.proposedChange().removed.size());
-}
-
-int FirstRunViewModel::movedCount() const {
-    return static_cast<int>(m_model.proposedChange().moved.size());
-}
-
-QStringList FirstRunViewModel::schedules() const {
-    return ScheduleText::titles();
-}
-
-int FirstRunViewModel::scheduleIndex() const {
-    return ScheduleText::index(m_model.settings().autoUpdate);
-}
-
-void FirstRunViewModel::setScheduleIndex(int index) {
-    if (index >= 0 && index < allAutoUpdates().size())
-        m_model.setAutoUpdate(allAutoUpdates()[index]);
-}
-
-bool FirstRunViewModel::opensAtLogin() const {
-    return m_model.launchAtLogin();
-}
-
-void FirstRunViewModel::setOpensAtLogin(bool on) {
-    m_model.setLaunchAtLogin(on);
-    Q_EMIT changed();
 }
 
 void FirstRunViewModel::back() {

@@ -1,10 +1,15 @@
 #pragma once
 
-#include "Kelvane/ViewModels/ChoiceListModel.h"
+#include "Kelvane/ViewModels/ChoiceRow.h"
+#include "Kelvane/ViewModels/RowListOf.h"
 
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+class QJSEngine;
+class QQmlEngine;
 
 namespace Kelvane {
 
@@ -14,47 +19,30 @@ class AppModel;
 /// touches the Dock but the last button. Main thread only.
 class FirstRunViewModel : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
     /// 0 to 2.
     Q_PROPERTY(int step READ step NOTIFY stepChanged)
     Q_PROPERTY(int stepCount READ stepCount CONSTANT)
-    Q_PROPERTY(Kelvane::ChoiceListModel* choices READ choices CONSTANT)
-    /// The Dock as it was saved first.
-    Q_PROPERTY(QList<QString> savedApps READ savedApps NOTIFY changed)
-    /// Its icons in two rows of about equal length where one would be too long; the second may be empty.
+    Q_PROPERTY(Kelvane::RowListModel* choices READ choices CONSTANT)
+    /// The icons of the Dock as it was saved first, in two rows of about equal length where one would be too long; the
+    /// second may be empty.
     Q_PROPERTY(QList<QString> savedFirstIcons READ savedFirstIcons NOTIFY changed)
     Q_PROPERTY(QList<QString> savedSecondIcons READ savedSecondIcons NOTIFY changed)
     Q_PROPERTY(QString savedNames READ savedNames NOTIFY changed)
-    Q_PROPERTY(QString suggestionTitle READ suggestionTitle NOTIFY changed)
-    Q_PROPERTY(int addedCount READ addedCount NOTIFY changed)
-    Q_PROPERTY(int leavingCount READ leavingCount NOTIFY changed)
-    Q_PROPERTY(int movedCount READ movedCount NOTIFY changed)
-    Q_PROPERTY(QList<QString> schedules READ schedules CONSTANT)
-    Q_PROPERTY(int scheduleIndex READ scheduleIndex WRITE setScheduleIndex NOTIFY changed)
-    Q_PROPERTY(bool opensAtLogin READ opensAtLogin WRITE setOpensAtLogin NOTIFY changed)
 
 public:
     static constexpr int lastStep = 2;
-    static constexpr qsizetype iconsPerChoice = 8;
-    static constexpr qsizetype iconsPerRow = 14;
 
-    explicit FirstRunViewModel(AppModel& model, QObject* parent = nullptr);
+    explicit FirstRunViewModel(AppModel& model);
+    static FirstRunViewModel* create(QQmlEngine* engine, QJSEngine*);
 
     int step() const;
     int stepCount() const { return lastStep + 1; }
-    ChoiceListModel* choices() { return &m_choices; }
-    QStringList savedApps() const;
+    RowListOf<ChoiceRow>* choices() { return &m_choices; }
     QStringList savedFirstIcons() const;
     QStringList savedSecondIcons() const;
     QString savedNames() const;
-    QString suggestionTitle() const;
-    int addedCount() const;
-    int leavingCount() const;
-    int movedCount() const;
-    QStringList schedules() const;
-    int scheduleIndex() const;
-    void setScheduleIndex(int index);
-    bool opensAtLogin() const;
-    void setOpensAtLogin(bool on);
 
     /// Both stay within the steps.
     Q_INVOKABLE void back();
@@ -70,9 +58,10 @@ Q_SIGNALS:
 
 private:
     void reload();
+    QStringList savedApps() const;
 
     AppModel& m_model;
-    ChoiceListModel m_choices;
+    RowListOf<ChoiceRow> m_choices;
 };
 
 } // namespace Kelvane

@@ -2,6 +2,7 @@
 
 #include "DockCore/Ports/Clock.h"
 #include "Kelvane/AppModel.h"
+#include "Kelvane/ViewModels/AppFacade.h"
 #include "Kelvane/ViewModels/AppNames.h"
 
 #include <algorithm>
@@ -10,27 +11,29 @@ using namespace DockCore;
 
 namespace Kelvane {
 
-HistoryViewModel::HistoryViewModel(AppModel& model, QObject* parent)
-    : QObject(parent)
-    , m_model(model) {
+HistoryViewModel::HistoryViewModel(AppModel& model)
+    : m_model(model) {
     connect(&model, &AppModel::snapshotsChanged, this, &HistoryViewModel::reload);
     connect(&model, &AppModel::currentChanged, this, &HistoryViewModel::reload);
     // A scan may have found names that were not known before.
     connect(&model, &AppModel::installedChanged, this, &HistoryViewModel::reload);
-    connect(&model, &AppModel::isWorkingChanged, this, &HistoryViewModel::changed);
     reload();
+}
+
+HistoryViewModel* HistoryViewModel::create(QQmlEngine* engine, QJSEngine*) {
+    return new HistoryViewModel(AppFacade::of(*engine).model());
 }
 
 bool HistoryViewModel::hasPrevious() const {
     return m_model.previousSnapshot().has_value();
 }
 
-bool HistoryViewModel::isWorking() const {
-    return m_model.isWorking();
-}
-
 void HistoryViewModel::reload() {
-    m_snapshots.setSnapshots(m_model.snapshots(), m_model.current(), AppNames(m_model), m_model.services().clock.now());
+    const QDateTime now = m_model.services().clock.now();
+    QList<SnapshotRow> rows;
+    for (const Snapshot& snapshot : m_model.snapshots())
+        rows += SnapshotRow::of(snapshot, m_model.current(), AppNames(m_model), now);
+    m_snapshots.setRows(rows);
     Q_EMIT changed();
 }
 

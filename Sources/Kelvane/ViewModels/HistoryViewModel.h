@@ -1,34 +1,39 @@
 #pragma once
 
-#include "Kelvane/ViewModels/SnapshotListModel.h"
+#include "Kelvane/ViewModels/RowListOf.h"
+#include "Kelvane/ViewModels/SnapshotRow.h"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 #include <optional>
+
+class QJSEngine;
+class QQmlEngine;
 
 namespace Kelvane {
 
 class AppModel;
 
-/// What the history pane shows and does. Confirming is the view's business. Main thread only.
+/// State and actions of the history pane; the view asks for confirmation. Main thread only.
 class HistoryViewModel : public QObject {
     Q_OBJECT
-    Q_PROPERTY(Kelvane::SnapshotListModel* snapshots READ snapshots CONSTANT)
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(Kelvane::RowListModel* snapshots READ snapshots CONSTANT)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed)
     Q_PROPERTY(bool hasPrevious READ hasPrevious NOTIFY changed)
-    /// A change of the Dock is running.
-    Q_PROPERTY(bool isWorking READ isWorking NOTIFY changed)
 
 public:
-    explicit HistoryViewModel(AppModel& model, QObject* parent = nullptr);
+    explicit HistoryViewModel(AppModel& model);
+    static HistoryViewModel* create(QQmlEngine* engine, QJSEngine*);
 
-    SnapshotListModel* snapshots() { return &m_snapshots; }
+    RowListOf<SnapshotRow>* snapshots() { return &m_snapshots; }
     bool isEmpty() const { return m_snapshots.rowCount() == 0; }
     bool hasPrevious() const;
-    bool isWorking() const;
 
     Q_INVOKABLE void restorePrevious();
-    /// Both do nothing when the snapshot is gone.
+    /// Both do nothing when the snapshot no longer exists.
     Q_INVOKABLE void restore(const QString& id);
     Q_INVOKABLE void remove(const QString& id);
 
@@ -40,7 +45,7 @@ private:
     std::optional<DockCore::Snapshot> snapshot(const QString& id) const;
 
     AppModel& m_model;
-    SnapshotListModel m_snapshots;
+    RowListOf<SnapshotRow> m_snapshots;
 };
 
 } // namespace Kelvane

@@ -9,18 +9,18 @@ namespace Kelvane {
 /// Which application an image in the window shows. It travels as the end of an image URL, so that any identifier and
 /// any name survive. A plain value.
 struct IconAddress {
-    /// Empty for what is no application.
+    /// Empty for a tile that is no application.
     QString bundleID;
-    /// What the drawn stand-in takes its initial from.
+    /// The stand-in takes its initial from it.
     QString name;
-    /// Where the bundle lies; empty when its identifier is to be looked up.
+    /// Path of the bundle; empty when its identifier is to be looked up.
     QString path;
 
     bool operator==(const IconAddress&) const = default;
 
     /// The source of an image that shows it.
     QString url() const;
-    /// Takes what follows the provider's name in `url`.
+    /// Takes the part of `url` after the provider's name.
     static std::optional<IconAddress> parse(const QString& text);
 };
 

@@ -2,7 +2,6 @@
 
 #include "Kelvane/AppModel.h"
 #include "Kelvane/ViewModels/AppNames.h"
-#include "Kelvane/ViewModels/DockViewModel.h"
 
 #include <algorithm>
 
@@ -17,11 +16,24 @@ QStringList& list(Profile& profile, ProfileEditor::PickTarget target) {
     return target == ProfileEditor::PickTarget::pinned ? profile.pinned : profile.excluded;
 }
 
+QList<AppListRow> rows(const QStringList& bundleIDs, const AppNames& names) {
+    QList<AppListRow> rows;
+    for (const QString& bundleID : bundleIDs) {
+        AppListRow row;
+        row.bundleID = bundleID;
+        row.name = names.name(bundleID);
+        row.isInstalled = names.isInstalled(bundleID);
+        row.isFirst = rows.isEmpty();
+        row.isLast = rows.size() + 1 == bundleIDs.size();
+        rows += row;
+    }
+    return rows;
+}
+
 } // namespace
 
-ProfileEditor::ProfileEditor(AppModel& model, QObject* parent)
-    : QObject(parent)
-    , m_model(model)
+ProfileEditor::ProfileEditor(AppModel& model)
+    : m_model(model)
     , m_id(model.activeProfile().id) {
     connect(&model, &AppModel::profilesChanged, this, &ProfileEditor::reload);
     connect(&model, &AppModel::installedChanged, this, &ProfileEditor::reload);
@@ -43,19 +55,19 @@ Profile ProfileEditor::profile() const {
 
 void ProfileEditor::reload() {
     const Profile shown = profile();
-    m_pinned.setApps(shown.pinned, AppNames(m_model));
-    m_excluded.setApps(shown.excluded, AppNames(m_model));
+    m_pinned.setRows(rows(shown.pinned, AppNames(m_model)));
+    m_excluded.setRows(rows(shown.excluded, AppNames(m_model)));
     updatePreview();
 }
 
 void ProfileEditor::updatePreview() {
     const Profile shown = profile();
-    m_preview.setTiles(TileListModel::plain(m_model.plan(shown), shown.pinned));
+    m_preview.setRows(TileRow::plain(m_model.plan(shown), shown.pinned));
     Q_EMIT changed();
 }
 
 bool ProfileEditor::isPreviewDense() const {
-    return m_preview.appCount() > DockViewModel::mostRoomy;
+    return TileRow::areDense(m_preview.rows());
 }
 
 QString ProfileEditor::emptyText() const {
@@ -134,18 +146,11 @@ QString ProfileEditor::undoText() const {
     return removal == nullptr ? QString() : u"Undo Remove “"_s + AppNames(m_model).name(removal->bundleID) + u"”"_s;
 }
 
-AppListModel* ProfileEditor::undoList() {
+RowListModel* ProfileEditor::undoList() {
     const Removal* removal = lastRemoval();
     if (removal == nullptr)
         return nullptr;
     return removal->target == PickTarget::pinned ? &m_pinned : &m_excluded;
-}
-
-QStringList ProfileEditor::windows() const {
-    QStringList titles;
-    for (const UsageWindow window : allUsageWindows())
-        titles += title(window);
-    return titles;
 }
 
 void ProfileEditor::undoRemove() {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "DockCore/Profile.h"
-#include "Kelvane/ViewModels/AppListModel.h"
-#include "Kelvane/ViewModels/TileListModel.h"
+#include "Kelvane/ViewModels/AppListRow.h"
+#include "Kelvane/ViewModels/RowListOf.h"
+#include "Kelvane/ViewModels/TileRow.h"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 #include <functional>
 
@@ -16,23 +18,23 @@ class AppModel;
 /// Removals can be undone for as long as the editor lives. Main thread only.
 class ProfileEditor : public QObject {
     Q_OBJECT
+    QML_ANONYMOUS
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY changed)
     Q_PROPERTY(QString symbol READ symbol WRITE setSymbol NOTIFY changed)
     Q_PROPERTY(QList<QString> symbols READ symbols CONSTANT)
-    Q_PROPERTY(Kelvane::AppListModel* pinned READ pinned CONSTANT)
-    Q_PROPERTY(Kelvane::AppListModel* excluded READ excluded CONSTANT)
+    Q_PROPERTY(Kelvane::RowListModel* pinned READ pinned CONSTANT)
+    Q_PROPERTY(Kelvane::RowListModel* excluded READ excluded CONSTANT)
     Q_PROPERTY(int usageSlots READ usageSlots WRITE setUsageSlots NOTIFY changed)
     Q_PROPERTY(QString usageSlotsText READ usageSlotsText NOTIFY changed)
     Q_PROPERTY(int windowIndex READ windowIndex WRITE setWindowIndex NOTIFY changed)
     Q_PROPERTY(bool isActive READ isActive NOTIFY changed)
     Q_PROPERTY(bool isOnly READ isOnly NOTIFY changed)
-    /// "Undo Remove “Mail”", empty when there is nothing to bring back.
+    /// "Undo Remove “Mail”", empty when there is nothing to undo.
     Q_PROPERTY(QString undoText READ undoText NOTIFY changed)
-    /// The list that it came from.
-    Q_PROPERTY(Kelvane::AppListModel* undoList READ undoList NOTIFY changed)
-    Q_PROPERTY(QList<QString> windows READ windows CONSTANT)
-    /// What the Dock would be with the profile.
-    Q_PROPERTY(Kelvane::TileListModel* preview READ preview CONSTANT)
+    /// The list that the removal was made in.
+    Q_PROPERTY(Kelvane::RowListModel* undoList READ undoList NOTIFY changed)
+    /// The Dock that the profile would make.
+    Q_PROPERTY(Kelvane::RowListModel* preview READ preview CONSTANT)
     Q_PROPERTY(bool isPreviewDense READ isPreviewDense NOTIFY changed)
     Q_PROPERTY(QString emptyText READ emptyText NOTIFY changed)
     Q_PROPERTY(int fewestSlots READ fewestSlots CONSTANT)
@@ -42,7 +44,7 @@ public:
     /// Which list an application is added to or taken from.
     enum class PickTarget { pinned, excluded };
 
-    explicit ProfileEditor(AppModel& model, QObject* parent = nullptr);
+    explicit ProfileEditor(AppModel& model);
 
     /// Shows another profile; one that does not exist shows the active one.
     void setProfile(const QUuid& id);
@@ -53,8 +55,8 @@ public:
     QString symbol() const { return profile().symbol; }
     void setSymbol(const QString& symbol);
     QStringList symbols() const { return DockCore::Profile::symbols(); }
-    AppListModel* pinned() { return &m_pinned; }
-    AppListModel* excluded() { return &m_excluded; }
+    RowListOf<AppListRow>* pinned() { return &m_pinned; }
+    RowListOf<AppListRow>* excluded() { return &m_excluded; }
     int usageSlots() const { return static_cast<int>(profile().adaptiveSlots); }
     /// Keeps to 0 to 24.
     void setUsageSlots(int count);
@@ -65,9 +67,8 @@ public:
     bool isActive() const;
     bool isOnly() const;
     QString undoText() const;
-    AppListModel* undoList();
-    QStringList windows() const;
-    TileListModel* preview() { return &m_preview; }
+    RowListModel* undoList();
+    RowListOf<TileRow>* preview() { return &m_preview; }
     bool isPreviewDense() const;
     QString emptyText() const;
     static int fewestSlots() { return 0; }
@@ -104,9 +105,9 @@ private:
 
     AppModel& m_model;
     QUuid m_id;
-    AppListModel m_pinned;
-    AppListModel m_excluded;
-    TileListModel m_preview;
+    RowListOf<AppListRow> m_pinned;
+    RowListOf<AppListRow> m_excluded;
+    RowListOf<TileRow> m_preview;
     QList<Removal> m_removals;
 };
 

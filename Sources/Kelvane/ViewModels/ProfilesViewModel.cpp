@@ -1,6 +1,7 @@
 #include "Kelvane/ViewModels/ProfilesViewModel.h"
 
 #include "Kelvane/AppModel.h"
+#include "Kelvane/ViewModels/AppFacade.h"
 
 #include <algorithm>
 
@@ -8,9 +9,8 @@ using namespace DockCore;
 
 namespace Kelvane {
 
-ProfilesViewModel::ProfilesViewModel(AppModel& model, QObject* parent)
-    : QObject(parent)
-    , m_model(model)
+ProfilesViewModel::ProfilesViewModel(AppModel& model)
+    : m_model(model)
     , m_selected(model.activeProfile().id)
     , m_editor(model)
     , m_picker(model, m_editor) {
@@ -19,8 +19,12 @@ ProfilesViewModel::ProfilesViewModel(AppModel& model, QObject* parent)
     reload();
 }
 
+ProfilesViewModel* ProfilesViewModel::create(QQmlEngine* engine, QJSEngine*) {
+    return new ProfilesViewModel(AppFacade::of(*engine).model());
+}
+
 void ProfilesViewModel::reload() {
-    m_profiles.setProfiles(m_model.profiles(), m_model.activeProfile().id);
+    m_profiles.setRows(ProfileListRow::listed(m_model.profiles(), m_model.activeProfile().id));
     const bool exists = std::ranges::count(m_model.profiles(), m_selected, &Profile::id) > 0;
     setSelected(exists ? m_selected : m_model.activeProfile().id);
 }

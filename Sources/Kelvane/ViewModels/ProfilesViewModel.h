@@ -2,32 +2,37 @@
 
 #include "Kelvane/ViewModels/AppPicker.h"
 #include "Kelvane/ViewModels/ProfileEditor.h"
-#include "Kelvane/ViewModels/ProfileListModel.h"
+#include "Kelvane/ViewModels/ProfileListRow.h"
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
+
+class QJSEngine;
+class QQmlEngine;
 
 namespace Kelvane {
 
 class AppModel;
 
-/// What the profiles pane shows and does: the list, which profile is selected, and the editor on that one.
+/// State and actions of the profiles pane: the list, the selected profile, and the editor of that one.
 /// The selection is not the active profile. Main thread only.
 class ProfilesViewModel : public QObject {
     Q_OBJECT
-    Q_PROPERTY(Kelvane::ProfileListModel* profiles READ profiles CONSTANT)
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(Kelvane::RowListModel* profiles READ profiles CONSTANT)
     Q_PROPERTY(Kelvane::ProfileEditor* editor READ editor CONSTANT)
     Q_PROPERTY(Kelvane::AppPicker* picker READ picker CONSTANT)
-    Q_PROPERTY(QString selectedId READ selectedId NOTIFY selectionChanged)
     Q_PROPERTY(int selectedRow READ selectedRow NOTIFY selectionChanged)
 
 public:
-    explicit ProfilesViewModel(AppModel& model, QObject* parent = nullptr);
+    explicit ProfilesViewModel(AppModel& model);
+    static ProfilesViewModel* create(QQmlEngine* engine, QJSEngine*);
 
-    ProfileListModel* profiles() { return &m_profiles; }
+    RowListOf<ProfileListRow>* profiles() { return &m_profiles; }
     ProfileEditor* editor() { return &m_editor; }
     AppPicker* picker() { return &m_picker; }
-    QString selectedId() const { return DockCore::uuidString(m_selected); }
     int selectedRow() const;
 
     Q_INVOKABLE void select(const QString& id);
@@ -35,12 +40,12 @@ public:
     Q_INVOKABLE void selectActive();
     Q_INVOKABLE void add();
     Q_INVOKABLE void duplicateSelected();
-    /// Selects the profile that takes its place; the only profile stays.
+    /// Selects the profile that moves into its row; the only profile stays.
     Q_INVOKABLE void removeSelected();
 
 Q_SIGNALS:
     void selectionChanged();
-    /// A profile was made and selected; its name waits to be typed over.
+    /// A profile was made and selected; its name is to be edited.
     void profileMade();
 
 private:
@@ -49,7 +54,7 @@ private:
 
     AppModel& m_model;
     QUuid m_selected;
-    ProfileListModel m_profiles;
+    RowListOf<ProfileListRow> m_profiles;
     ProfileEditor m_editor;
     AppPicker m_picker;
 };

@@ -1,94 +1,34 @@
 #pragma once
 
 #include <QAbstractListModel>
-#include <QHash>
-#include <QList>
-#include <QString>
+#include <QtQml/qqmlregistration.h>
 
 namespace Kelvane {
 
-/// A list model over plain values. New values are set whole; views are told only what came, went, moved or changed, so
-/// that scroll position and keyboard focus stay with their rows. `Row` needs `==` and a `QString key() const`.
-/// Main thread only.
-template <typename Row>
+/// A list of values as QML sees it: a role for each property of the values' type, under its name. `RowListOf` holds the
+/// values. Main thread only.
 class RowListModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("View models own their lists.")
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+
 public:
-    using QAbstractListModel::QAbstractListModel;
+    int count() const { return rowCount({}); }
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
 
-    int rowCount(const QModelIndex& parent = {}) const override {
-        return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-    }
-
-    QVariant data(const QModelIndex& index, int role) const override {
-        if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
-            return {};
-        return value(m_rows[index.row()], role);
-    }
-
-    const QList<Row>& rows() const { return m_rows; }
+Q_SIGNALS:
+    void countChanged();
 
 protected:
-    virtual QVariant value(const Row& row, int role) const = 0;
+    explicit RowListModel(const QMetaObject& rowType);
 
-    void setRows(const QList<Row>& rows) {
-        const QStringList wanted = uniqueKeys(rows);
-        removeAllBut(wanted);
-        for (qsizetype i = 0; i < rows.size(); ++i)
-            bringTo(i, wanted[i], rows[i]);
-    }
+    /// The value at `place`, which exists.
+    virtual const void* valueAt(int place) const = 0;
 
 private:
-    /// A key that occurs again is told apart by its count.
-    static QStringList uniqueKeys(const QList<Row>& rows) {
-        QStringList keys;
-        QHash<QString, int> seen;
-        for (const Row& row : rows) {
-            const QString key = row.key();
-            keys.append(key + QChar(u'\n') + QString::number(seen[key]++));
-        }
-        return keys;
-    }
-
-    void removeAllBut(const QStringList& wanted) {
-        const QSet<QString> kept(wanted.begin(), wanted.end());
-        for (qsizetype last = m_rows.size() - 1; last >= 0; --last) {
-            if (kept.contains(m_keys[last]))
-                continue;
-            qsizetype first = last;
-            while (first > 0 && !kept.contains(m_keys[first - 1]))
-                --first;
-            beginRemoveRows({}, static_cast<int>(first), static_cast<int>(last));
-            m_rows.remove(first, last - first + 1);
-            m_keys.remove(first, last - first + 1);
-            endRemoveRows();
-            last = first;
-        }
-    }
-
-    void bringTo(qsizetype place, const QString& key, const Row& row) {
-        const int to = static_cast<int>(place);
-        const qsizetype from = m_keys.indexOf(key, place);
-        if (from < 0) {
-            beginInsertRows({}, to, to);
-            m_rows.insert(place, row);
-            m_keys.insert(place, key);
-            endInsertRows();
-            return;
-        }
-        if (from != place) {
-            beginMoveRows({}, static_cast<int>(from), static_cast<int>(from), {}, to);
-            m_rows.move(from, place);
-            m_keys.move(from, place);
-            endMoveRows();
-        }
-        if (m_rows[place] != row) {
-            m_rows[place] = row;
-            Q_EMIT dataChanged(index(to), index(to));
-        }
-    }
-
-    QList<Row> m_rows;
-    QStringList m_keys;
+    const QMetaObject& m_rowType;
 };
 
 } // namespace Kelvane

@@ -1,59 +1,42 @@
 #include "Kelvane/ViewModels/SettingsViewModel.h"
 
 #include "DockCore/Ports/Folders.h"
-#include "Kelvane/AppModel.h"
 #include "Kelvane/Ports/Desktop.h"
-#include "Kelvane/ViewModels/ScheduleText.h"
+#include "Kelvane/ViewModels/AppFacade.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
 using namespace DockCore;
-using namespace Qt::StringLiterals;
 
 namespace Kelvane {
 
-SettingsViewModel::SettingsViewModel(AppModel& model, Desktop& desktop, QObject* parent)
-    : QObject(parent)
-    , m_model(model)
+SettingsViewModel::SettingsViewModel(AppModel& model, Desktop& desktop)
+    : m_model(model)
     , m_desktop(desktop) {
     connect(&model, &AppModel::settingsChanged, this, &SettingsViewModel::changed);
     connect(&model, &AppModel::launchAtLoginChanged, this, &SettingsViewModel::changed);
 }
 
+SettingsViewModel* SettingsViewModel::create(QQmlEngine* engine, QJSEngine*) {
+    AppFacade& facade = AppFacade::of(*engine);
+    return new SettingsViewModel(facade.model(), facade.desktop());
+}
+
 QStringList SettingsViewModel::schedules() const {
-    return ScheduleText::titles();
+    QStringList titles;
+    for (const AutoUpdate interval : allAutoUpdates())
+        titles += title(interval);
+    return titles;
 }
 
 int SettingsViewModel::scheduleIndex() const {
-    return ScheduleText::index(m_model.settings().autoUpdate);
+    return static_cast<int>(allAutoUpdates().indexOf(m_model.settings().autoUpdate));
 }
 
 void SettingsViewModel::setScheduleIndex(int index) {
     if (index >= 0 && index < allAutoUpdates().size())
         m_model.setAutoUpdate(allAutoUpdates()[index]);
-}
-
-bool SettingsViewModel::isPaused() const {
-    return m_model.settings().autoPaused;
-}
-
-bool SettingsViewModel::opensAtLogin() const {
-    return m_model.launchAtLogin();
-}
-
-void SettingsViewModel::setOpensAtLogin(bool on) {
-    m_model.setLaunchAtLogin(on);
-    // Also after a refusal the switch must go back.
-    Q_EMIT changed();
-}
-
-bool SettingsViewModel::tracksUsage() const {
-    return m_model.settings().trackingEnabled;
-}
-
-void SettingsViewModel::setTracksUsage(bool on) {
-    m_model.setTracking(on);
 }
 
 QString SettingsViewModel::folder() const {
@@ -66,17 +49,9 @@ QString SettingsViewModel::version() const {
     return QCoreApplication::applicationVersion();
 }
 
-void SettingsViewModel::resume() {
-    m_model.refreshAndResume();
-}
-
 void SettingsViewModel::showData() {
     const QString file = m_model.paths().usage();
     m_desktop.reveal(QFileInfo::exists(file) ? file : m_model.paths().support());
-}
-
-void SettingsViewModel::eraseUsage() {
-    m_model.eraseUsage();
 }
 
 } // namespace Kelvane

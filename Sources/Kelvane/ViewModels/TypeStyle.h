@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 namespace Kelvane {
 
@@ -9,6 +10,7 @@ namespace Kelvane {
 /// Main thread only.
 class TypeStyle : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(int size MEMBER m_size NOTIFY changed REQUIRED)
     Q_PROPERTY(int line MEMBER m_line NOTIFY changed REQUIRED)
     Q_PROPERTY(int weight MEMBER m_weight NOTIFY changed)

@@ -1,5 +1,6 @@
 #include "Kelvane/ViewModels/UsageText.h"
 
+#include "Kelvane/Counted.h"
 #include "Kelvane/ViewModels/DateText.h"
 
 #include <QStringList>
@@ -12,16 +13,15 @@ namespace Kelvane::UsageText {
 
 namespace {
 
-constexpr double activationPoints = 2;
-
-QString counted(qint64 count, const QString& noun, const QString& plural) {
-    return QString::number(count) + u' ' + (count == 1 ? noun : plural);
-}
-
 QString points(double value) {
     // One decimal is enough to tell rows apart, and a whole number needs none.
     const double rounded = std::round(value * 10) / 10;
     return QString::number(rounded, 'f', rounded == std::floor(rounded) ? 0 : 1);
+}
+
+/// What one of the `count` that made these points is worth.
+QString each(double value, double count) {
+    return points(value / count);
 }
 
 } // namespace
@@ -44,7 +44,7 @@ QString detail(const DockCore::AppScore& score, DockCore::UsageWindow window) {
     if (score.trackedDays > 0)
         parts += u"%1 of %2 days"_s.arg(score.trackedDays).arg(DockCore::days(window));
     else if (score.spotlightDays > 0)
-        parts += u"opened on "_s + counted(score.spotlightDays, u"day"_s, u"days"_s) + u" (macOS history)"_s;
+        parts += u"opened on "_s + counted(score.spotlightDays, u"day"_s) + u" (macOS history)"_s;
     return parts.join(u" · "_s);
 }
 
@@ -55,18 +55,18 @@ QString subtitle(const std::optional<QDateTime>& trackingSince) {
 }
 
 QString reason(const DockCore::AppScore& score) {
-    const double minutes = score.seconds / 60;
-    const double switches = activationPoints * static_cast<double>(score.activations);
-    // What the ranker gave for opened days is what the two measured parts leave of the score.
-    const double opened = score.score - minutes - switches;
     QStringList parts;
-    if (minutes > 0)
-        parts += u"%1 for time active (1 a minute)"_s.arg(points(minutes));
+    if (score.seconds > 0)
+        parts += u"%1 for time active (%2 a minute)"_s.arg(points(score.minutePoints),
+                                                           each(score.minutePoints, score.seconds / 60));
     if (score.activations > 0)
-        parts += u"%1 for %2 (2 each)"_s.arg(points(switches), counted(score.activations, u"switch"_s, u"switches"_s));
+        parts += u"%1 for %2 (%3 each)"_s.arg(points(score.activationPoints),
+                                              counted(score.activations, u"switch"_s, u"switches"_s),
+                                              each(score.activationPoints, static_cast<double>(score.activations)));
     if (score.spotlightDays > 0)
-        parts += u"%1 for %2 opened (%3 each)"_s.arg(points(opened), counted(score.spotlightDays, u"day"_s, u"days"_s),
-                                                     points(opened / static_cast<double>(score.spotlightDays)));
+        parts +=
+            u"%1 for %2 opened (%3 each)"_s.arg(points(score.spotlightPoints), counted(score.spotlightDays, u"day"_s),
+                                                each(score.spotlightPoints, static_cast<double>(score.spotlightDays)));
     const QString total = points(score.score);
     return total + (total == u"1" ? u" point: "_s : u" points: "_s) + parts.join(u", "_s);
 }

@@ -15,7 +15,7 @@ namespace UsageText {
 
 /// "under a minute", "5m", "2h 5m"; whole minutes, the rest is dropped.
 QString duration(double seconds);
-/// What is known of one application, as "2h 5m active · 3 switches · 4 of 7 days"; parts that do not apply are left
+/// The usage of one application, as "2h 5m active · 3 switches · 4 of 7 days"; parts that do not apply are left
 /// out.
 QString detail(const DockCore::AppScore& score, DockCore::UsageWindow window);
 /// Since when usage is counted, or what stands in until it is.

@@ -2,28 +2,45 @@
 
 #include "DockCore/Ports/Clock.h"
 #include "Kelvane/AppModel.h"
+#include "Kelvane/ViewModels/AppFacade.h"
 #include "Kelvane/ViewModels/UsageText.h"
 
 #include <algorithm>
+#include <numeric>
 
 using namespace DockCore;
 using namespace Qt::StringLiterals;
 
 namespace Kelvane {
 
-UsageViewModel::UsageViewModel(AppModel& model, QObject* parent)
-    : QObject(parent)
-    , m_model(model) {
+namespace {
+
+QList<RankingRow> rows(const QList<AppScore>& ranking, UsageWindow window) {
+    QList<RankingRow> rows;
+    for (const AppScore& score : ranking) {
+        RankingRow row;
+        row.rank = static_cast<int>(rows.size()) + 1;
+        row.bundleID = score.app.bundleID;
+        row.name = score.app.name;
+        row.detail = UsageText::detail(score, window);
+        row.reason = UsageText::reason(score);
+        row.share = score.score / ranking.first().score;
+        rows += row;
+    }
+    return rows;
+}
+
+} // namespace
+
+UsageViewModel::UsageViewModel(AppModel& model)
+    : m_model(model) {
     // The chart follows the ranking, not each tick of the tracker, so that both always show the same figures.
     connect(&model, &AppModel::rankingsChanged, this, &UsageViewModel::reload);
     reload();
 }
 
-QStringList UsageViewModel::windows() const {
-    QStringList titles;
-    for (const UsageWindow window : allUsageWindows())
-        titles += title(window);
-    return titles;
+UsageViewModel* UsageViewModel::create(QQmlEngine* engine, QJSEngine*) {
+    return new UsageViewModel(AppFacade::of(*engine).model());
 }
 
 int UsageViewModel::windowIndex() const {
@@ -47,7 +64,9 @@ bool UsageViewModel::isEmpty() const {
 }
 
 QString UsageViewModel::total() const {
-    return UsageText::duration(m_days.totalSeconds());
+    const QList<DayBar>& days = m_days.rows();
+    return UsageText::duration(std::accumulate(days.begin(), days.end(), 0.0,
+                                               [](double sum, const DayBar& day) { return sum + day.seconds; }));
 }
 
 QString UsageViewModel::totalCaption() const {
@@ -55,8 +74,8 @@ QString UsageViewModel::totalCaption() const {
 }
 
 void UsageViewModel::reload() {
-    m_ranking.setRanking(m_model.rankings().value(m_window), m_window);
-    m_days.setDays(m_model.usage(), m_window, m_model.services().clock.now());
+    m_ranking.setRows(rows(m_model.rankings().value(m_window), m_window));
+    m_days.setRows(DayBar::bars(m_model.usage(), m_window, m_model.services().clock.now()));
     Q_EMIT changed();
 }
 

@@ -9,7 +9,7 @@ ListView {
     id: root
 
     required property string name
-    required property AppListModel apps
+    required property RowListModel apps
     required property bool ordered
     property int dragRow: -1
     property int dropRow: -1

@@ -8,7 +8,7 @@ Column {
 
     required property string title
     required property string explanation
-    required property AppListModel apps
+    required property RowListModel apps
     property string emptyText: ""
     property bool ordered: false
 

@@ -42,7 +42,7 @@ FocusScope {
                 symbol: "pause.circle.fill"
                 text: "Automatic updates are paused because the Dock was changed outside Kelvane. Your change is safe until you resume."
                 action: "Resume"
-                onTriggered: DockViewModel.resume()
+                onTriggered: App.resume()
             }
         }
         Spacer { height: 20 }

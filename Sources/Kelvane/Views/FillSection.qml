@@ -32,7 +32,7 @@ Column {
             label: "Measured over"
             Segmented {
                 label: "Measured over"
-                options: ProfilesViewModel.editor.windows
+                options: App.usageWindows
                 currentIndex: ProfilesViewModel.editor.windowIndex
                 onActivated: index => ProfilesViewModel.editor.windowIndex = index
             }

@@ -19,7 +19,7 @@ Item {
 
         SecondaryButton {
             text: "Restore Previous Dock"
-            enabled: HistoryViewModel.hasPrevious && !HistoryViewModel.isWorking
+            enabled: HistoryViewModel.hasPrevious && !App.working
             onClicked: HistoryViewModel.restorePrevious()
         }
     }

@@ -37,16 +37,16 @@ const QUrl source = QUrl(u"qrc:/qt/qml/Kelvane/MainWindow.qml"_s);
 } // namespace
 
 MainWindow::MainWindow(AppModel& model, Desktop& desktop, Images& images)
-    : m_context{model, desktop}
-    , m_scope(m_context)
+    : m_model(model)
     , m_desktop(desktop)
-    , m_images(images) {
+    , m_images(images)
+    , m_facade(model, desktop) {
     qml_register_types_Kelvane();
-    m_engine = std::make_unique<QQmlApplicationEngine>();
+    m_engine = std::make_unique<QQmlApplicationEngine>(&m_facade);
     // The engine owns them and goes first.
     m_engine->addImageProvider(u"symbol"_s, new SymbolProvider(m_images));
     m_engine->addImageProvider(u"disc"_s, new DiscProvider);
-    m_engine->addImageProvider(u"icon"_s, new IconProvider(m_context.model.catalog(), m_images));
+    m_engine->addImageProvider(u"icon"_s, new IconProvider(m_model.catalog(), m_images));
     m_engine->addImageProvider(u"shadow"_s, new ShadowProvider);
     m_engine->addImportPath(u":/qt/qml"_s);
     m_types = std::make_unique<QQmlComponent>(m_engine.get(), source, QQmlComponent::Asynchronous);
@@ -97,7 +97,7 @@ bool MainWindow::isVisible() const {
 }
 
 void MainWindow::drawScreens(const QString& folder) {
-    m_screenImages = std::make_unique<ScreenImages>(m_context.model, m_desktop, *this, folder);
+    m_screenImages = std::make_unique<ScreenImages>(m_model, m_desktop, *this, folder);
     connect(m_screenImages.get(), &ScreenImages::finished, this, &MainWindow::screensDrawn);
     m_screenImages->start();
 }
@@ -116,14 +116,6 @@ std::optional<QImage> MainWindow::grab() const {
     image.fill(background);
     QPainter(&image).drawImage(image.rect(), content);
     return image;
-}
-
-void MainWindow::setContent(AppFacade::Content content) {
-    if (!m_engine)
-        return;
-    const int type = qmlTypeId("Kelvane", 1, 0, "App");
-    if (auto* facade = m_engine->singletonInstance<AppFacade*>(type))
-        facade->setContent(content);
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -156,12 +148,12 @@ void MainWindow::make() {
 
 void MainWindow::remember() const {
     // A window that was opened for pictures says nothing about where its owner wants it.
-    if (!m_context.model.isCapturing())
-        WindowFrame::save(m_window->geometry(), m_context.model.paths());
+    if (!m_model.isCapturing())
+        WindowFrame::save(m_window->geometry(), m_model.paths());
 }
 
 void MainWindow::place() {
-    const std::optional<QRect> remembered = WindowFrame::load(m_context.model.paths());
+    const std::optional<QRect> remembered = WindowFrame::load(m_model.paths());
     const QScreen* screen = remembered ? QGuiApplication::screenAt(remembered->center()) : nullptr;
     if (screen != nullptr) {
         m_window->setGeometry(QRect(remembered->topLeft(), remembered->size().expandedTo(m_window->minimumSize())));

@@ -2,7 +2,6 @@
 
 #include "Kelvane/ApplicationWindow.h"
 #include "Kelvane/ViewModels/AppFacade.h"
-#include "Kelvane/ViewModels/ViewContext.h"
 
 #include <QImage>
 #include <QPointer>
@@ -39,7 +38,7 @@ public:
     /// the system draws it; nothing without a window.
     std::optional<QImage> grab() const;
     /// Shows the panes or the first run whatever the settings say, for pictures.
-    void setContent(AppFacade::Content content);
+    void setContent(AppFacade::Content content) { m_facade.setContent(content); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -50,10 +49,10 @@ private:
     void remember() const;
     void finishMaking();
 
-    ViewContext m_context;
-    ViewContextScope m_scope;
+    AppModel& m_model;
     Desktop& m_desktop;
     Images& m_images;
+    AppFacade m_facade;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     std::unique_ptr<QQmlComponent> m_types;
     QPointer<QQuickWindow> m_window;

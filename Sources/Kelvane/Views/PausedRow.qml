@@ -8,8 +8,8 @@ Item {
 
     clip: true
     visible: height > 0
-    height: SettingsViewModel.isPaused ? Math.max(48, button.height + 18) : 0
-    opacity: SettingsViewModel.isPaused ? 1 : 0
+    height: App.autoPaused ? Math.max(48, button.height + 18) : 0
+    opacity: App.autoPaused ? 1 : 0
     Behavior on opacity { NumberAnimation { duration: Theme.growTime; easing.type: Easing.OutCubic } }
     Behavior on height { NumberAnimation { duration: Theme.growTime; easing.type: Easing.OutCubic } }
 
@@ -34,6 +34,6 @@ Item {
         id: button
         anchors { right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
         text: "Resume"
-        onClicked: SettingsViewModel.resume()
+        onClicked: App.resume()
     }
 }

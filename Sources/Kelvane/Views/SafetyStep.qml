@@ -62,11 +62,11 @@ Flickable {
 
         FormRow {
             minimumHeight: 56
-            label: FirstRunViewModel.suggestionTitle
+            label: DockViewModel.suggestedTitle
             ChangeSummary {
-                added: FirstRunViewModel.addedCount
-                leaving: FirstRunViewModel.leavingCount
-                moved: FirstRunViewModel.movedCount
+                added: DockViewModel.added
+                leaving: DockViewModel.leaving
+                moved: DockViewModel.moved
                 leavingLine: ""
             }
         }
@@ -77,9 +77,9 @@ Flickable {
             MenuButton {
                 label: "Reorganize automatically"
                 inCard: true
-                model: FirstRunViewModel.schedules
-                currentIndex: FirstRunViewModel.scheduleIndex
-                onActivated: index => FirstRunViewModel.scheduleIndex = index
+                model: SettingsViewModel.schedules
+                currentIndex: SettingsViewModel.scheduleIndex
+                onActivated: index => SettingsViewModel.scheduleIndex = index
             }
         }
         FormRow {
@@ -88,8 +88,8 @@ Flickable {
             label: "Open at login (recommended, so usage is counted)"
             Switch {
                 text: "Open at login (recommended, so usage is counted)"
-                checked: FirstRunViewModel.opensAtLogin
-                onToggled: FirstRunViewModel.opensAtLogin = checked
+                checked: SettingsViewModel.opensAtLogin
+                onToggled: SettingsViewModel.opensAtLogin = checked
             }
         }
     }

@@ -11,10 +11,6 @@ namespace Kelvane {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-const QStringList panes = {u"dock"_s, u"usage"_s, u"profiles"_s, u"history"_s, u"settings"_s};
-} // namespace
-
 ScreenImages::ScreenImages(AppModel& model, Desktop& desktop, MainWindow& window, const QString& folder)
     : m_model(model)
     , m_desktop(desktop)
@@ -25,16 +21,9 @@ ScreenImages::ScreenImages(AppModel& model, Desktop& desktop, MainWindow& window
         for (int step = 0; step <= FirstRunViewModel::lastStep; ++step)
             m_shots.append({u"onboarding-"_s + QString::number(step + 1) + suffix, appearance,
                             AppFacade::Content::firstRun, step});
-        for (int pane = 0; pane < panes.size(); ++pane)
-            m_shots.append({panes[pane] + suffix, appearance, AppFacade::Content::panes, pane});
+        for (int pane = 0; pane < allPanes().size(); ++pane)
+            m_shots.append({allPanes()[pane].name + suffix, appearance, AppFacade::Content::panes, pane});
     }
-}
-
-QStringList ScreenImages::names() const {
-    QStringList names;
-    for (const Shot& shot : m_shots)
-        names.append(shot.name);
-    return names;
 }
 
 void ScreenImages::start() {

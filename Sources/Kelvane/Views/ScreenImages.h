@@ -14,9 +14,9 @@ namespace Kelvane {
 class AppModel;
 class MainWindow;
 
-/// Renders every pane and every step of the first run, light and dark, into PNG files, one after another. What cannot
-/// be rendered is left out. It brings the window and the model into each state and leaves them in the last: the program
-/// is expected to end. Main thread only.
+/// Renders every pane and every step of the first run, light and dark, into PNG files that are named after them, one
+/// after another. What cannot be rendered is left out. It brings the window and the model into each state and leaves
+/// them in the last: the program is expected to end. Main thread only.
 class ScreenImages : public QObject {
     Q_OBJECT
 
@@ -25,8 +25,6 @@ public:
 
     /// Opens the window and begins; `finished` follows after the last picture.
     void start();
-    /// The names of the pictures, in order, without ".png".
-    QStringList names() const;
 
     /// How long the views get to settle before a picture.
     static constexpr std::chrono::milliseconds settling{1500};

@@ -16,30 +16,9 @@ Rectangle {
         Accessible.role: Accessible.PageTabList
         Accessible.name: "Panes"
 
-        SidebarButton {
-            pane: "dock"
-            text: "Dock"
-            symbol: "dock.rectangle"
-        }
-        SidebarButton {
-            pane: "usage"
-            text: "Usage"
-            symbol: "chart.bar.xaxis"
-        }
-        SidebarButton {
-            pane: "profiles"
-            text: "Profiles"
-            symbol: "square.stack.3d.up"
-        }
-        SidebarButton {
-            pane: "history"
-            text: "History"
-            symbol: "clock.arrow.circlepath"
-        }
-        SidebarButton {
-            pane: "settings"
-            text: "Settings"
-            symbol: "gearshape"
+        Repeater {
+            model: App.panes
+            SidebarButton {}
         }
     }
     Item {

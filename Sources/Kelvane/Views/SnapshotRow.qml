@@ -89,7 +89,7 @@ Item {
             }
             SmallButton {
                 text: "Restore"
-                enabled: !HistoryViewModel.isWorking
+                enabled: !App.working
                 Accessible.description: root.description
                 onClicked: root.restoreRequested()
             }

@@ -19,7 +19,7 @@ Item {
 
         Segmented {
             label: "Measured over"
-            options: UsageViewModel.windows
+            options: App.usageWindows
             currentIndex: UsageViewModel.windowIndex
             onActivated: index => UsageViewModel.windowIndex = index
         }

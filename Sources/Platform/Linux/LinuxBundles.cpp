@@ -1,5 +1,6 @@
 #include "Platform/Linux/LinuxBundles.h"
 
+#include "DockCore/AppInfo.h"
 #include "DockCore/Error.h"
 #include "DockCore/Storage/BoundedFile.h"
 #include "DockCore/Storage/JSONFile.h"
@@ -29,10 +30,6 @@ QString withoutTrailingSlashes(const QString& path) {
     while (length > 1 && path.at(length - 1) == u'/')
         --length;
     return path.first(length);
-}
-
-bool isApplication(const QString& path) {
-    return path.endsWith(u".app"_s);
 }
 
 QString infoFile(const QString& bundle) {

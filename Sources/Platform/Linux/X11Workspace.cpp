@@ -27,7 +27,7 @@ bool hasDisplay() {
 std::optional<DockCore::AppInfo> applicationAround(const QString& executable, DockCore::Bundles& bundles) {
     for (qsizetype end = executable.lastIndexOf(u'/'); end > 0; end = executable.lastIndexOf(u'/', end - 1)) {
         const QString folder = executable.first(end);
-        if (!folder.endsWith(".app"_L1))
+        if (!DockCore::isApplicationPath(folder))
             continue;
         if (const auto application = DockCore::AppInfo::fromBundle(folder, bundles))
             return application;

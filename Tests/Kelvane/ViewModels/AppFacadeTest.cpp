@@ -1,7 +1,10 @@
 #include "Kelvane/ViewModels/AppFacade.h"
 
+#include "Support/FakeDesktop.h"
 #include "Support/ModelWorld.h"
 
+#include <QAbstractItemModelTester>
+#include <QQmlEngine>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -17,7 +20,7 @@ private Q_SLOTS:
     void init() {
         world.emplace(QStringList{u"a"_s});
         model.emplace(world->services(), world->paths(), nullptr, nullptr);
-        facade.emplace(*model);
+        facade.emplace(*model, desktop);
     }
     void cleanup() {
         facade.reset();
@@ -25,37 +28,64 @@ private Q_SLOTS:
         world.reset();
     }
 
-    void panesGoByTheirRawValues_data() {
-        QTest::addColumn<QString>("name");
+    void eachPaneIsChosenByItsName_data() {
         QTest::addColumn<int>("pane");
-        QTest::addColumn<QString>("file");
-        const auto row = [](const char* name, Pane pane, const char* file) {
-            QTest::newRow(name) << QString::fromLatin1(name) << static_cast<int>(pane) << QString::fromLatin1(file);
-        };
-        row("dock", Pane::dock, "DockPane.qml");
-        row("usage", Pane::usage, "UsagePane.qml");
-        row("profiles", Pane::profiles, "ProfilesPane.qml");
-        row("history", Pane::history, "HistoryPane.qml");
-        row("settings", Pane::settings, "SettingsPane.qml");
+        for (int pane = 0; pane < allPanes().size(); ++pane)
+            QTest::newRow(qPrintable(allPanes()[pane].name)) << pane;
     }
-    void panesGoByTheirRawValues() {
-        QFETCH(QString, name);
+    void eachPaneIsChosenByItsName() {
         QFETCH(int, pane);
-        QFETCH(QString, file);
+        const PaneInfo& chosen = info(static_cast<Pane>(pane));
         model->finishOnboarding(AppModel::Apply::no);
-        facade->setPane(name);
+        facade->setPane(chosen.name);
         QCOMPARE(static_cast<int>(model->pane()), pane);
-        QCOMPARE(facade->pane(), name);
-        QCOMPARE(facade->contentSource().fileName(), file);
+        QCOMPARE(facade->pane(), chosen.name);
+        QVERIFY(facade->contentSource().path().endsWith(u"/Kelvane/"_s + chosen.file));
+        QCOMPARE(facade->paneHasBar(), chosen.hasBar);
     }
 
-    void aPaneThatIsNoneChangesNothing() {
+    void panesAreListedInOrder() {
+        const QAbstractItemModelTester tester(facade->panes(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QStringList names;
+        for (const PaneInfo& pane : facade->panes()->rows())
+            names += pane.name;
+        QCOMPARE(names.join(u' '), u"dock usage profiles history settings"_s);
+        QCOMPARE(info(Pane::settings).name, u"settings"_s);
+    }
+
+    void facadeIsTheParentOfItsEngine() {
+        const QQmlEngine engine(&*facade);
+        QCOMPARE(&AppFacade::of(engine), &*facade);
+        AppFacade other(*model, desktop);
+        const QQmlEngine second(&other);
+        QCOMPARE(&AppFacade::of(second), &other);
+    }
+
+    void usageWindowsHaveTheirTitles() {
+        QCOMPARE(facade->usageWindows(), QStringList({u"Last 7 days"_s, u"Last 30 days"_s}));
+    }
+
+    void resumingEndsThePauseAndAppliesAgain() {
+        pinActive(*model, {u"b"_s, u"a"_s});
+        model->applyActive(AppModel::Notify::failuresOnly);
+        QVERIFY(waitForChange(*model));
+        world->setDock({u"e"_s});
+        QSignalSpy spy(&*facade, &AppFacade::settingsChanged);
+        QVERIFY(refreshAndWait(*model));
+        QVERIFY(facade->isAutoPaused());
+        QVERIFY(spy.count() > 0);
+        facade->resume();
+        QTRY_VERIFY(!facade->isAutoPaused() && !model->isWorking());
+        QCOMPARE(world->dock(), QStringList({u"b"_s, u"a"_s}));
+    }
+
+    void unknownPaneChangesNothing() {
         facade->setPane(u"usage"_s);
         facade->setPane(u"Dock"_s);
         QCOMPARE(facade->pane(), u"usage"_s);
     }
 
-    void theFirstRunTakesThePlaceOfThePanesUntilItIsDone() {
+    void firstRunTakesThePlaceOfThePanesUntilItIsDone() {
         QVERIFY(facade->isFirstRun());
         QCOMPARE(facade->contentSource().fileName(), u"OnboardingView.qml"_s);
         QSignalSpy changed(&*facade, &AppFacade::contentChanged);
@@ -65,7 +95,7 @@ private Q_SLOTS:
         QCOMPARE(facade->contentSource().fileName(), u"DockPane.qml"_s);
     }
 
-    void aPictureShowsEitherWhateverTheSettingsSay() {
+    void contentForPicturesOverridesTheSettings() {
         facade->setContent(AppFacade::Content::panes);
         QVERIFY(!facade->isFirstRun());
         model->finishOnboarding(AppModel::Apply::no);
@@ -73,7 +103,7 @@ private Q_SLOTS:
         QVERIFY(facade->isFirstRun());
     }
 
-    void aToastIsShownAndGoesByItself() {
+    void toastDisappearsByItself() {
         QSignalSpy changed(&*facade, &AppFacade::toastChanged);
         model->restorePrevious();
         QCOMPARE(facade->toastText(), u"There is no earlier Dock to go back to yet."_s);
@@ -84,7 +114,7 @@ private Q_SLOTS:
         QVERIFY(changed.count() >= 2);
     }
 
-    void aLaterToastGetsItsWholeTime() {
+    void laterToastIsShownForItsWholeTime() {
         pinActive(*model, {});
         model->restorePrevious();
         QTest::qWait(1000);
@@ -96,7 +126,7 @@ private Q_SLOTS:
         QVERIFY(since.elapsed() >= AppFacade::toastMilliseconds - 300);
     }
 
-    void theFooterFollowsTheActiveProfile() {
+    void profileNameFollowsTheActiveProfile() {
         QSignalSpy changed(&*facade, &AppFacade::activeProfileChanged);
         pinActive(*model, {u"a"_s});
         QCOMPARE(facade->profileName(), u"Work"_s);
@@ -112,6 +142,7 @@ private:
 
     std::optional<ModelWorld> world;
     std::optional<AppModel> model;
+    Fakes::Desktop desktop;
     std::optional<AppFacade> facade;
 };
 

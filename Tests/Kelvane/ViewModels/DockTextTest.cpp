@@ -66,9 +66,10 @@ private Q_SLOTS:
         QTEST(DockText::data(days, *usageWindow(window)), "sentence");
     }
 
-    void countsSayAppsAlsoForOne() {
+    void countAgreesWithItsNoun() {
+        QCOMPARE(DockText::count(0), u"0 apps in your Dock"_s);
+        QCOMPARE(DockText::count(1), u"1 app in your Dock"_s);
         QCOMPARE(DockText::count(14), u"14 apps in your Dock"_s);
-        QCOMPARE(DockText::count(1), u"1 apps in your Dock"_s);
     }
 
     void nothingLeavingSaysNothing() {

@@ -1,5 +1,6 @@
 #include "Kelvane/ViewModels/FirstRunViewModel.h"
 
+#include "Kelvane/ViewModels/AppNames.h"
 #include "Support/ModelWorld.h"
 
 #include <QAbstractItemModelTester>
@@ -16,7 +17,7 @@ class FirstRunViewModelTest : public QObject {
 private Q_SLOTS:
     void init() {
         world.emplace();
-        model.emplace(world->services(), world->paths(), nullptr, &login);
+        model.emplace(world->services(), world->paths(), nullptr, nullptr);
         model->captureOriginal();
         flow.emplace(*model);
         tester = std::make_unique<QAbstractItemModelTester>(flow->choices(),
@@ -27,7 +28,6 @@ private Q_SLOTS:
         flow.reset();
         model.reset();
         world.reset();
-        login = {};
     }
 
     void theStepsAreWalkedWithinTheirEnds() {
@@ -55,7 +55,6 @@ private Q_SLOTS:
         QVERIFY(flow->choices()->rows()[2].isChosen);
         QVERIFY(!flow->choices()->rows()[0].isChosen);
         QVERIFY(spy.count() > 0);
-        QCOMPARE(flow->suggestionTitle(), u"Suggested for "_s + model->profiles()[2].name);
         QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
         QVERIFY(!model->settings().onboarded);
     }
@@ -72,18 +71,21 @@ private Q_SLOTS:
     void line() {
         QFETCH(int, slots_);
         QFETCH(UsageWindow, window);
-        QTEST(ChoiceListModel::line(Profile::make(u"x"_s, u"heart"_s, {}, {}, slots_, window, false)), "line");
+        Profile profile = model->activeProfile();
+        profile.adaptiveSlots = slots_;
+        profile.window = window;
+        model->update(profile);
+        QTEST(flow->choices()->rows()[0].line, "line");
     }
 
     void aChoiceShowsWhatItsProfilePlans() {
         pinActive(*model, {u"c"_s, u"a"_s});
-        QCOMPARE(flow->choices()->rows()[0].bundleIDs, ModelWorld::bundleIDs({u"c"_s, u"a"_s}));
+        QCOMPARE(flow->choices()->rows()[0].icons, AppNames(*model).icons(ModelWorld::bundleIDs({u"c"_s, u"a"_s})));
     }
 
     void theSavedDockIsTheOriginal() {
         world->setDock({u"e"_s});
         QVERIFY(refreshAndWait(*model));
-        QCOMPARE(flow->savedApps(), ModelWorld::bundleIDs({u"a"_s, u"b"_s}));
         QCOMPARE(flow->savedNames(), u"a, b"_s);
     }
 
@@ -106,21 +108,6 @@ private Q_SLOTS:
         const FirstRunViewModel run(fresh);
         QTEST(static_cast<int>(run.savedFirstIcons().size()), "first");
         QTEST(static_cast<int>(run.savedSecondIcons().size()), "second");
-        QCOMPARE(run.savedFirstIcons().size() + run.savedSecondIcons().size(), run.savedApps().size());
-    }
-
-    void theFiguresAreThoseOfTheSuggestion() {
-        QVERIFY(refreshAndWait(*model));
-        pinActive(*model, {u"c"_s, u"b"_s});
-        QCOMPARE(flow->addedCount(), 1);
-        QCOMPARE(flow->leavingCount(), 1);
-        QCOMPARE(flow->movedCount(), 0);
-    }
-
-    void aProfileWithoutAppsWouldChangeNothing() {
-        QVERIFY(refreshAndWait(*model));
-        pinActive(*model, {});
-        QCOMPARE(flow->leavingCount(), 0);
     }
 
     void applyingEndsTheFlowAndWritesTheDock() {
@@ -160,7 +147,6 @@ private Q_SLOTS:
     void anUnfinishedFlowIsNotRememberedAsDone() {
         flow->advance();
         flow->choose(uuidString(model->profiles()[1].id));
-        flow->setScheduleIndex(1);
         QVERIFY(!world->profileStore().settings.onboarded);
     }
 
@@ -172,20 +158,10 @@ private Q_SLOTS:
         QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
     }
 
-    void scheduleAndLoginAreSetAtOnce() {
-        flow->setScheduleIndex(1);
-        QCOMPARE(world->profileStore().settings.autoUpdate, AutoUpdate::hourly);
-        QCOMPARE(flow->scheduleIndex(), 1);
-        flow->setOpensAtLogin(true);
-        QVERIFY(login.enabled);
-        QVERIFY(flow->opensAtLogin());
-    }
-
 private:
     std::optional<ModelWorld> world;
     std::optional<AppModel> model;
     std::optional<FirstRunViewModel> flow;
-    Fakes::LoginItem login;
     std::unique_ptr<QAbstractItemModelTester> tester;
 };
 

@@ -48,12 +48,12 @@ private Q_SLOTS:
         QVERIFY(!pane->hasPrevious());
     }
 
-    void oneAppIsStillCalledApps() {
+    void oneAppIsSingular() {
         world->setDock({u"a"_s});
         capture();
         AppModel fresh(world->services(), world->paths(), nullptr, nullptr);
         HistoryViewModel other(fresh);
-        QVERIFY(other.snapshots()->rows().at(0).caption.endsWith(u"· 1 apps"_s));
+        QVERIFY(other.snapshots()->rows().at(0).caption.endsWith(u"· 1 app"_s));
     }
 
     void theNewestComesFirst() {
@@ -88,12 +88,12 @@ private Q_SLOTS:
 
     void restorePutsTheDockBackAndSavesThePresentOneFirst() {
         apply();
-        pane->restore(rows()[1].id);
-        QVERIFY(pane->isWorking());
+        pane->restore(rows()[1].snapshotId);
+        QVERIFY(model->isWorking());
         QVERIFY(waitForChange(*model));
         QCOMPARE(world->dock(), QStringList({u"a"_s, u"b"_s}));
         QCOMPARE(rows()[0].reason, u"Before restoring"_s);
-        QCOMPARE(rows()[0].bundleIDs, ModelWorld::bundleIDs({u"c"_s, u"a"_s}));
+        QCOMPARE(rows()[0].names, u"c, a"_s);
     }
 
     void restorePreviousBringsTheEarlierDockBack() {
@@ -106,7 +106,7 @@ private Q_SLOTS:
     void deletingNeverChangesTheDock() {
         apply();
         const int saves = world->preferences.saves;
-        const QString id = rows()[0].id;
+        const QString id = rows()[0].snapshotId;
         pane->remove(id);
         QCOMPARE(rows().size(), 1);
         QCOMPARE(world->preferences.saves, saves);
@@ -116,14 +116,14 @@ private Q_SLOTS:
     }
 
     void theOriginalCannotBeDeleted() {
-        pane->remove(rows()[0].id);
+        pane->remove(rows()[0].snapshotId);
         QCOMPARE(rows().size(), 1);
     }
 
     void whatIsGoneIsNeitherRestoredNorDeleted() {
         pane->restore(u"nonsense"_s);
         pane->remove(u"nonsense"_s);
-        QVERIFY(!pane->isWorking());
+        QVERIFY(!model->isWorking());
         QCOMPARE(rows().size(), 1);
     }
 

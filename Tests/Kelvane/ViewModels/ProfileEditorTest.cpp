@@ -237,7 +237,7 @@ private Q_SLOTS:
     }
 
 private:
-    static QString names(const AppListModel& list) {
+    static QString names(const RowListOf<AppListRow>& list) {
         QStringList result;
         for (const AppListRow& row : list.rows())
             result += row.name;

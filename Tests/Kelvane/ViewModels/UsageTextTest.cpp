@@ -85,27 +85,31 @@ private Q_SLOTS:
         QTest::addColumn<double>("seconds");
         QTest::addColumn<int>("switches");
         QTest::addColumn<int>("openedDays");
-        QTest::addColumn<double>("score");
+        QTest::addColumn<double>("opened");
         QTest::addColumn<QString>("text");
         QTest::newRow("time and switches")
-            << 33840.0 << 212 << 0 << 988.0
+            << 33840.0 << 212 << 0 << 0.0
             << u"988 points: 564 for time active (1 a minute), 424 for 212 switches (2 each)"_s;
         QTest::newRow("ninety seconds and one switch make 3.5")
-            << 90.0 << 1 << 0 << 3.5 << u"3.5 points: 1.5 for time active (1 a minute), 2 for 1 switch (2 each)"_s;
+            << 90.0 << 1 << 0 << 0.0 << u"3.5 points: 1.5 for time active (1 a minute), 2 for 1 switch (2 each)"_s;
         QTest::newRow("days opened without tracked history count ten each")
             << 0.0 << 0 << 3 << 30.0 << u"30 points: 30 for 3 days opened (10 each)"_s;
         QTest::newRow("days opened count less with tracked history")
-            << 60.0 << 0 << 3 << 1 + 3 * (1 - 2.0 / 7) * 10
+            << 60.0 << 0 << 3 << 3 * (1 - 2.0 / 7) * 10
             << u"22.4 points: 1 for time active (1 a minute), 21.4 for 3 days opened (7.1 each)"_s;
         QTest::newRow("one point has no plural")
-            << 60.0 << 0 << 0 << 1.0 << u"1 point: 1 for time active (1 a minute)"_s;
+            << 60.0 << 0 << 0 << 0.0 << u"1 point: 1 for time active (1 a minute)"_s;
     }
     void reason() {
         QFETCH(double, seconds);
         QFETCH(int, switches);
         QFETCH(int, openedDays);
-        QFETCH(double, score);
-        QTEST(UsageText::reason({{}, seconds, switches, 0, openedDays, {}, score}), "text");
+        QFETCH(double, opened);
+        const double minutes = seconds / 60;
+        const double switched = 2.0 * switches;
+        QTEST(UsageText::reason(
+                  {{}, seconds, switches, 0, openedDays, {}, minutes + switched + opened, minutes, switched, opened}),
+              "text");
     }
 };
 

@@ -88,19 +88,6 @@ private Q_SLOTS:
         QCOMPARE(model->profiles(), profiles);
     }
 
-    void rolesAnswerForEachRow() {
-        track(u"a"_s, 600, 0);
-        open();
-        const RankingModel& ranking = *pane->ranking();
-        const QModelIndex first = ranking.index(0);
-        QCOMPARE(first.data(RankingModel::rankRole).toInt(), 1);
-        QCOMPARE(first.data(RankingModel::bundleIDRole).toString(), ModelWorld::bundleID(u"a"_s));
-        QCOMPARE(first.data(RankingModel::nameRole).toString(), u"a"_s);
-        QVERIFY(first.data(RankingModel::detailRole).toString().startsWith(u"10m active"_s));
-        QCOMPARE(first.data(RankingModel::shareRole).toDouble(), 1.0);
-        QVERIFY(!first.data(Qt::DecorationRole).isValid());
-    }
-
     void fiveHundredRowsAreListed() {
         UsageStore usage(world->paths().usage());
         for (int i = 0; i < 500; ++i) {

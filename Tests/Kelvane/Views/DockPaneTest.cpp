@@ -1,10 +1,8 @@
 #include "WindowTest.h"
 
-#include "Kelvane/Views/ScreenImages.h"
 #include "Kelvane/Views/WindowFrame.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -178,17 +176,6 @@ private Q_SLOTS:
         WindowWorld mac;
         mac.window.emplace(*mac.model, mac.desktop, mac.images);
         QVERIFY(!mac.window->grab());
-    }
-
-    void picturesAreNamedAndOrdered() {
-        WindowWorld mac;
-        mac.window.emplace(*mac.model, mac.desktop, mac.images);
-        const QTemporaryDir folder;
-        const ScreenImages images(*mac.model, mac.desktop, *mac.window, folder.path());
-        QCOMPARE(images.names().join(u' '),
-                 u"onboarding-1-light onboarding-2-light onboarding-3-light dock-light usage-light profiles-light "
-                 u"history-light settings-light onboarding-1-dark onboarding-2-dark onboarding-3-dark dock-dark "
-                 u"usage-dark profiles-dark history-dark settings-dark"_s);
     }
 };
 

@@ -70,7 +70,7 @@ private Q_SLOTS:
         const QStringList before = mac->world.dock();
         mac->click(u"Delete"_s);
         QTRY_COMPARE(mac->model->snapshots().size(), 1);
-        QVERIFY(mac->find(u"Delete"_s) == nullptr);
+        QTRY_VERIFY(mac->find(u"Delete"_s) == nullptr);
         QCOMPARE(mac->world.dock(), before);
     }
 

@@ -6,7 +6,7 @@ import Kelvane
 Rectangle {
     id: root
 
-    required property TileListModel tiles
+    required property RowListModel tiles
     required property bool suggested
     property bool dense: false
     property string emptyText: ""

@@ -2,15 +2,27 @@
 
 #include "DockCore/DockDiff.h"
 #include "DockCore/DockTile.h"
-#include "Kelvane/ViewModels/RowListModel.h"
 
+#include <QObject>
+#include <QString>
 #include <QStringList>
 
 namespace Kelvane {
 
-/// One tile of a drawn Dock.
+/// One tile of a drawn Dock. Rows keep their key when the Dock changes, so that tiles slide to where they go. A plain
+/// value.
 struct TileRow {
+    Q_GADGET
+    Q_PROPERTY(QString name MEMBER name)
+    Q_PROPERTY(QString iconSource MEMBER iconSource)
+    Q_PROPERTY(bool spacer MEMBER isSpacer)
+    Q_PROPERTY(bool pinned MEMBER isPinned)
+    Q_PROPERTY(QString mark READ markName)
+    Q_PROPERTY(QString accessibleName READ accessibleName)
+
+public:
     enum class Mark { none, arriving, leaving, movedForward, movedBack };
+    Q_ENUM(Mark)
 
     QString id;
     QString name;
@@ -21,34 +33,9 @@ struct TileRow {
 
     bool operator==(const TileRow&) const = default;
     QString key() const { return id; }
-    /// What a screen reader says: the whole name and what the marks show.
+    QString markName() const;
+    /// For screen readers: the whole name and the meaning of the marks.
     QString accessibleName() const;
-};
-
-/// The tiles of a drawn Dock, in order. Rows keep their identity when the Dock changes, so that tiles slide to where
-/// they go. Main thread only.
-class TileListModel : public RowListModel<TileRow> {
-    Q_OBJECT
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
-
-public:
-    enum Role {
-        idRole = Qt::UserRole + 1,
-        nameRole,
-        iconSourceRole,
-        spacerRole,
-        pinnedRole,
-        markRole,
-        accessibleNameRole
-    };
-
-    explicit TileListModel(QObject* parent = nullptr);
-
-    void setTiles(const QList<TileRow>& tiles) { setRows(tiles); }
-    int count() const { return rowCount(); }
-    /// Spacers do not count.
-    qsizetype appCount() const;
-    QHash<int, QByteArray> roleNames() const override;
 
     /// The Dock as it is: no spacers, and what leaves is marked.
     static QList<TileRow> current(const QList<DockCore::DockTile>& current, const DockCore::DockDiff& diff);
@@ -57,12 +44,8 @@ public:
                                    const DockCore::DockDiff& diff, const QStringList& pinned);
     /// A Dock by itself, without marks.
     static QList<TileRow> plain(const QList<DockCore::DockTile>& tiles, const QStringList& pinned);
-
-Q_SIGNALS:
-    void countChanged();
-
-protected:
-    QVariant value(const TileRow& row, int role) const override;
+    /// So many applications that their tiles are drawn smaller; spacers do not count.
+    static bool areDense(const QList<TileRow>& rows);
 };
 
 } // namespace Kelvane

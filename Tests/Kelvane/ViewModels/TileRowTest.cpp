@@ -1,5 +1,6 @@
-#include "Kelvane/ViewModels/TileListModel.h"
+#include "Kelvane/ViewModels/TileRow.h"
 
+#include "Kelvane/ViewModels/RowListOf.h"
 #include "Support/DockNotation.h"
 
 #include <QAbstractItemModelTester>
@@ -13,8 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A tile and its mark: "a" stays, "+a" arrives, "-a" leaves, "<a" and ">a" move forward and back, "*a" wears a pin,
-/// and
-/// "_" is a spacer.
+/// and "_" is a spacer.
 QString notation(const QList<TileRow>& rows) {
     QStringList words;
     for (const TileRow& row : rows) {
@@ -42,7 +42,7 @@ QString notation(const QList<TileRow>& rows) {
 
 } // namespace
 
-class TileListModelTest : public QObject {
+class TileRowTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -70,12 +70,12 @@ private Q_SLOTS:
         const QList<DockTile> current = DockNotation::tiles(before);
         const QList<DockTile> proposal = DockNotation::tiles(after);
         const DockDiff diff(current, proposal);
-        QTEST(notation(TileListModel::current(current, diff)), "now");
-        QTEST(notation(TileListModel::proposed(proposal, current, diff, {})), "suggested");
+        QTEST(notation(TileRow::current(current, diff)), "now");
+        QTEST(notation(TileRow::proposed(proposal, current, diff, {})), "suggested");
     }
 
     void alwaysThereAppsWearAPin() {
-        QCOMPARE(notation(TileListModel::plain(DockNotation::tiles(u"a _ b"_s), {u"b"_s, u"z"_s})), u"a _ *b"_s);
+        QCOMPARE(notation(TileRow::plain(DockNotation::tiles(u"a _ b"_s), {u"b"_s, u"z"_s})), u"a _ *b"_s);
     }
 
     void accessibleNames_data() {
@@ -102,13 +102,13 @@ private Q_SLOTS:
     }
 
     void rowsThatStayAreMovedNotMadeAnew() {
-        TileListModel model;
+        RowListOf<TileRow> model;
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        model.setTiles(TileListModel::plain(DockNotation::tiles(u"a b c"_s), {}));
+        model.setRows(TileRow::plain(DockNotation::tiles(u"a b c"_s), {}));
         QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
         QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
         QSignalSpy moved(&model, &QAbstractItemModel::rowsMoved);
-        model.setTiles(TileListModel::plain(DockNotation::tiles(u"c a d"_s), {}));
+        model.setRows(TileRow::plain(DockNotation::tiles(u"c a d"_s), {}));
         QCOMPARE(notation(model.rows()), u"c a d"_s);
         QCOMPARE(removed.count(), 1);
         QCOMPARE(moved.count(), 1);
@@ -116,19 +116,19 @@ private Q_SLOTS:
     }
 
     void sixtyTilesComeAndGoWhole() {
-        TileListModel model;
+        RowListOf<TileRow> model;
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         QStringList words;
         for (int i = 0; i < 60; ++i)
             words.append(u"app"_s + QString::number(i));
-        model.setTiles(TileListModel::plain(DockNotation::tiles(words.join(u' ')), {}));
+        model.setRows(TileRow::plain(DockNotation::tiles(words.join(u' ')), {}));
         std::reverse(words.begin(), words.end());
-        model.setTiles(TileListModel::plain(DockNotation::tiles(words.join(u' ')), {}));
+        model.setRows(TileRow::plain(DockNotation::tiles(words.join(u' ')), {}));
         QCOMPARE(notation(model.rows()), words.join(u' '));
-        model.setTiles({});
+        model.setRows({});
         QCOMPARE(model.count(), 0);
     }
 };
 
-QTEST_GUILESS_MAIN(TileListModelTest)
-#include "TileListModelTest.moc"
+QTEST_GUILESS_MAIN(TileRowTest)
+#include "TileRowTest.moc"

@@ -1,4 +1,4 @@
-#include "Kelvane/ViewModels/DayChartModel.h"
+#include "Kelvane/ViewModels/DayBar.h"
 
 #include "DockCore/UsageStore.h"
 #include "Kelvane/ViewModels/DateText.h"
@@ -40,7 +40,7 @@ QString description(const DayBar& bar) {
 
 } // namespace
 
-void DayChartModel::setDays(const DockCore::UsageStore& usage, DockCore::UsageWindow window, const QDateTime& now) {
+QList<DayBar> DayBar::bars(const DockCore::UsageStore& usage, DockCore::UsageWindow window, const QDateTime& now) {
     const QStringList keys = DockCore::UsageStore::keys(DockCore::days(window), now);
     const QDate firstTracked =
         usage.trackingSince() ? usage.trackingSince()->toLocalTime().date() : now.toLocalTime().date().addDays(1);
@@ -59,42 +59,12 @@ void DayChartModel::setDays(const DockCore::UsageStore& usage, DockCore::UsageWi
     const double most = highest == bars.end() ? 0 : highest->seconds;
     for (qsizetype i = 0; i < bars.size(); ++i) {
         bars[i].share = most > 0 ? std::max(0.0, bars[i].seconds / most) : 0;
-        bars[i].label = label(bars, i, window);
-        bars[i].description = description(bars[i]);
+        bars[i].label = Kelvane::label(bars, i, window);
+        bars[i].description = Kelvane::description(bars[i]);
     }
     if (most > 0)
         highest->peak = UsageText::duration(most);
-    setRows(bars);
-}
-
-double DayChartModel::totalSeconds() const {
-    return std::accumulate(rows().begin(), rows().end(), 0.0,
-                           [](double sum, const DayBar& bar) { return sum + bar.seconds; });
-}
-
-QHash<int, QByteArray> DayChartModel::roleNames() const {
-    return {{shareRole, "share"},     {labelRole, "label"},        {peakRole, "peak"}, {descriptionRole, "description"},
-            {isTodayRole, "isToday"}, {isTrackedRole, "isTracked"}};
-}
-
-QVariant DayChartModel::value(const DayBar& bar, int role) const {
-    switch (role) {
-    case shareRole:
-        return bar.share;
-    case labelRole:
-        return bar.label;
-    case peakRole:
-        return bar.peak;
-    case Qt::DisplayRole:
-    case descriptionRole:
-        return bar.description;
-    case isTodayRole:
-        return bar.isToday;
-    case isTrackedRole:
-        return bar.isTracked;
-    default:
-        return {};
-    }
+    return bars;
 }
 
 } // namespace Kelvane
