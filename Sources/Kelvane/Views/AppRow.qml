@@ -12,19 +12,18 @@ Item {
     required property bool isInstalled
     required property bool isFirst
     required property bool isLast
-    required property bool ordered
-    required property bool focused
-    required property bool dragged
-    required property real shift
+    required property RowList rows
+    readonly property bool dragged: root.rows.dragRow === root.index
+    readonly property real shift: root.rows.shift(root.index)
     property real dragOffset: 0
 
-    signal keyUsed
-    signal pressedAt
-    signal draggedBy(real distance)
-    signal dropped
-    signal removeRequested
-    signal moveRequested(int by)
+    component RowButton: IconButton {
+        symbolSize: 14
+        ink: Theme.text3
+        Accessible.description: root.name
+    }
 
+    implicitHeight: root.rows.rowHeight
     z: root.dragged ? 1 : 0
     Accessible.role: Accessible.ListItem
     Accessible.name: root.name
@@ -32,19 +31,7 @@ Item {
     Accessible.focusable: true
     Accessible.focused: root.activeFocus
     // The keys come from the row itself or from one of its buttons.
-    Keys.onPressed: event => {
-        const moves = root.ordered && (event.modifiers & Qt.AltModifier) !== 0;
-        event.accepted = true;
-        root.keyUsed();
-        if (event.key === Qt.Key_Delete || event.key === Qt.Key_Backspace)
-            root.removeRequested();
-        else if (moves && event.key === Qt.Key_Up)
-            root.moveRequested(-1);
-        else if (moves && event.key === Qt.Key_Down)
-            root.moveRequested(1);
-        else
-            event.accepted = false;
-    }
+    Keys.onPressed: event => root.rows.takeKey(event, root.index)
 
     transform: Translate {
         y: root.dragged ? root.dragOffset : root.shift
@@ -54,34 +41,38 @@ Item {
         }
     }
 
-    Loader {
+    // What lifts the row off its list while it is dragged.
+    Rectangle {
         anchors.fill: parent
         anchors.margins: 1
-        active: root.dragged
-        source: "DraggedPlate.qml"
+        visible: root.dragged
+        radius: 8
+        color: Theme.raised
+        border.color: Theme.lineStrong
     }
     MouseArea {
         id: area
         property real startY: 0
         anchors.fill: parent
         hoverEnabled: true
-        preventStealing: root.ordered
+        preventStealing: root.rows.ordered
         cursorShape: root.dragged ? Qt.ClosedHandCursor : Qt.ArrowCursor
         onPressed: mouse => {
-            root.pressedAt();
+            root.rows.currentIndex = root.index;
+            root.rows.takePointer();
             area.startY = area.mapToItem(null, mouse.x, mouse.y).y;
         }
         onPositionChanged: mouse => {
-            if (!area.pressed || !root.ordered)
+            if (!area.pressed || !root.rows.ordered)
                 return;
             const distance = area.mapToItem(null, mouse.x, mouse.y).y - area.startY;
             if (!root.dragged && Math.abs(distance) < 6)
                 return;
             root.dragOffset = distance;
-            root.draggedBy(distance);
+            root.rows.drag(root.index, distance);
         }
-        onReleased: if (root.dragged) root.dropped()
-        onCanceled: if (root.dragged) root.dropped()
+        onReleased: if (root.dragged) root.rows.drop()
+        onCanceled: if (root.dragged) root.rows.drop()
     }
     AppIcon {
         x: 13
@@ -92,27 +83,46 @@ Item {
     }
     StyledText {
         x: 50
-        width: (tag.active ? tag.x : buttons.x) - x - 8
+        width: (tag.visible ? tag.x : buttons.x) - x - 8
         anchors.verticalCenter: parent.verticalCenter
         text: root.name
         color: root.isInstalled ? Theme.text : Theme.text2
         elide: Text.ElideRight
     }
-    Loader {
+    Tag {
         id: tag
-        active: !root.isInstalled
+        visible: !root.isInstalled
         anchors { right: buttons.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
-        source: "NotInstalledTag.qml"
+        text: root.isInstalled ? "" : "not installed"
     }
-    AppRowButtons {
+    Row {
         id: buttons
         anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
-        name: root.name
-        ordered: root.ordered
-        isFirst: root.isFirst
-        isLast: root.isLast
-        onMoveRequested: by => root.moveRequested(by)
-        onRemoveRequested: root.removeRequested()
+        spacing: 2
+
+        RowButton {
+            visible: root.rows.ordered
+            enabled: !root.isFirst
+            symbol: "chevron.up"
+            text: "Move up"
+            onClicked: root.rows.moveRequested(root.index, root.index - 1)
+        }
+        RowButton {
+            visible: root.rows.ordered
+            enabled: !root.isLast
+            symbol: "chevron.down"
+            text: "Move down"
+            onClicked: root.rows.moveRequested(root.index, root.index + 1)
+        }
+        Item {
+            width: 2
+            height: 1
+        }
+        RowButton {
+            symbol: "xmark"
+            text: "Remove"
+            onClicked: root.rows.removeRequested(root.index)
+        }
     }
     Hairline {
         visible: !root.dragged
@@ -121,7 +131,7 @@ Item {
         width: root.width - 50
     }
     FocusRing {
-        shown: root.focused
+        shown: root.activeFocus && !root.rows.byPointer
         edge: true
         anchors.margins: 3
     }

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import Kelvane
 
 // One list of a profile's applications, with what adds to it. A removed one can be brought back.
@@ -30,16 +31,23 @@ Column {
     Card {
         width: root.width
 
-        AppList {
+        RowList {
+            id: list
             width: root.width
+            implicitHeight: list.count * list.rowHeight
+            interactive: false
             name: root.title
-            apps: root.apps
+            model: root.apps
             ordered: root.ordered
             onRemoveRequested: row => root.removeRequested(row)
             onMoveRequested: (from, to) => root.moveRequested(from, to)
+            delegate: AppRow {
+                width: list.width
+                rows: list
+            }
         }
         Item {
-            visible: root.apps.count === 0 && root.emptyText !== ""
+            visible: list.count === 0 && root.emptyText !== ""
             width: root.width
             height: 40
             Label {
@@ -55,9 +63,41 @@ Column {
                 width: root.width - 16
             }
         }
-        AddRow {
+        T.AbstractButton {
+            id: adding
             width: root.width
+            implicitHeight: 40
+            text: "Add Apps…"
+            focusPolicy: Qt.StrongFocus
             onClicked: root.addRequested()
+            Accessible.name: adding.text
+            Accessible.onPressAction: adding.clicked()
+            Keys.onReturnPressed: adding.clicked()
+
+            background: Rectangle {
+                anchors.fill: parent
+                anchors.margins: 4
+                radius: 8
+                color: adding.down ? Theme.selected : adding.hovered ? Theme.hover : Theme.clear
+                FocusRing {
+                    shown: adding.visualFocus
+                    edge: true
+                }
+            }
+            Symbol {
+                x: 16
+                anchors.verticalCenter: parent.verticalCenter
+                name: "plus"
+                size: 14
+                tint: Theme.accentText
+            }
+            StyledText {
+                x: 36
+                anchors.verticalCenter: parent.verticalCenter
+                text: adding.text
+                type: Theme.button
+                color: Theme.accentText
+            }
         }
     }
 }

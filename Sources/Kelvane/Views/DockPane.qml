@@ -8,6 +8,10 @@ FocusScope {
 
     focus: true
 
+    component Space: Item {
+        width: 1
+    }
+
     PaneScroll {
         width: root.width
         height: root.height - bar.height
@@ -45,13 +49,13 @@ FocusScope {
                 onTriggered: App.resume()
             }
         }
-        Spacer { height: 20 }
+        Space { height: 20 }
         SectionTitle {
             width: parent.width
             title: "Now"
             caption: DockViewModel.nowCaption
         }
-        Spacer { height: 8 }
+        Space { height: 8 }
         Shelf {
             width: parent.width
             tiles: DockViewModel.now
@@ -60,13 +64,13 @@ FocusScope {
             highlight: summary.highlight
             Accessible.name: "Now"
         }
-        Spacer { height: 20 }
+        Space { height: 20 }
         SectionTitle {
             width: parent.width
             title: DockViewModel.suggestedTitle
             caption: DockViewModel.suggestion
         }
-        Spacer { height: 8 }
+        Space { height: 8 }
         Shelf {
             width: parent.width
             tiles: DockViewModel.suggested
@@ -76,7 +80,7 @@ FocusScope {
             highlight: summary.highlight
             Accessible.name: DockViewModel.suggestedTitle
         }
-        Spacer { height: 10 }
+        Space { height: 10 }
         Note {
             width: parent.width
             symbol: "lock.shield"
@@ -91,7 +95,7 @@ FocusScope {
         leading: ChangeSummary {
             id: summary
             width: bar.leadingWidth
-            // StyledText give way to a narrow window, the names on the buttons before them.
+            // The words give way to a narrow window, after the names on the buttons.
             terse: figuresWidth + edit.narrowest + apply.width + 98 > bar.width
             anchors.verticalCenter: parent.verticalCenter
             added: DockViewModel.added
@@ -100,7 +104,7 @@ FocusScope {
             leavingLine: DockViewModel.leavingLine
         }
 
-        SecondaryButton {
+        PushButton {
             id: edit
             readonly property real narrowest: Math.min(implicitWidth, 90)
             width: Math.max(edit.narrowest, Math.min(implicitWidth, 180, bar.width - 98 - apply.width - summary.shownWidth))

@@ -16,11 +16,12 @@ Item {
     Hairline {
         width: root.width
     }
-    DestructiveButton {
+    PushButton {
         id: deletion
         x: 18
         y: (Theme.barHeight - height) / 2
         text: "Delete Profile…"
+        kind: PushButton.Destructive
         enabled: !ProfilesViewModel.editor.isOnly
         onClicked: root.deleteRequested()
     }
@@ -30,13 +31,14 @@ Item {
         y: root.height - (Theme.barHeight + height) / 2
         spacing: 10
 
-        SecondaryButton {
+        PushButton {
             text: "Make Active"
             enabled: !ProfilesViewModel.editor.isActive
             onClicked: ProfilesViewModel.editor.makeActive()
         }
-        PrimaryButton {
+        PushButton {
             text: "Apply to Dock"
+            kind: PushButton.Primary
             enabled: !App.working
             onClicked: ProfilesViewModel.editor.applyToDock()
         }

@@ -17,7 +17,7 @@ Item {
         title: "History"
         subtitle: "Every change is saved first. Restore any earlier Dock."
 
-        SecondaryButton {
+        PushButton {
             text: "Restore Previous Dock"
             enabled: HistoryViewModel.hasPrevious && !App.working
             onClicked: HistoryViewModel.restorePrevious()

@@ -21,13 +21,13 @@ Item {
         anchors.fill: parent
         model: HistoryViewModel.snapshots
         boundsBehavior: Flickable.StopAtBounds
+        bottomMargin: Theme.paneBottom
         cacheBuffer: 400
         Accessible.role: Accessible.List
         Accessible.name: "Saved Docks"
 
-        // Bound components of this file cannot be made by a view; those of other files can.
+        // A bound component of this file cannot be made by the view; one of another file can.
         header: Qt.createComponent("HistoryHeader.qml", Component.PreferSynchronous, list)
-        footer: Qt.createComponent("Components/ListFooter.qml", Component.PreferSynchronous, list)
         delegate: SnapshotRow {
             width: list.width
             count: list.count

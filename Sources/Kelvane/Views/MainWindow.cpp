@@ -4,11 +4,10 @@
 #include "Kelvane/Ports/Desktop.h"
 #include "Kelvane/Ports/Images.h"
 #include "Kelvane/ViewModels/Appearance.h"
-#include "Kelvane/Views/DiscProvider.h"
 #include "Kelvane/Views/IconProvider.h"
 #include "Kelvane/Views/ScreenImages.h"
 #include "Kelvane/Views/ShadowProvider.h"
-#include "Kelvane/Views/SymbolProvider.h"
+#include "Kelvane/Views/SymbolCache.h"
 #include "Kelvane/Views/WindowFrame.h"
 
 #include <QDeadlineTimer>
@@ -44,10 +43,9 @@ MainWindow::MainWindow(AppModel& model, Desktop& desktop, Images& images)
     qml_register_types_Kelvane();
     m_engine = std::make_unique<QQmlApplicationEngine>(&m_facade);
     // The engine owns them and goes first.
-    m_engine->addImageProvider(u"symbol"_s, new SymbolProvider(m_images));
-    m_engine->addImageProvider(u"disc"_s, new DiscProvider);
     m_engine->addImageProvider(u"icon"_s, new IconProvider(m_model.catalog(), m_images));
     m_engine->addImageProvider(u"shadow"_s, new ShadowProvider);
+    new SymbolCache(m_images, m_engine.get());
     m_engine->addImportPath(u":/qt/qml"_s);
     m_types = std::make_unique<QQmlComponent>(m_engine.get(), source, QQmlComponent::Asynchronous);
 }

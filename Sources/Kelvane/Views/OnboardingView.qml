@@ -32,29 +32,48 @@ FocusScope {
         height: Theme.firstRunBarHeight
         y: root.height - height
 
-        BigButton {
+        PushButton {
             x: 40
             anchors.verticalCenter: parent.verticalCenter
             visible: FirstRunViewModel.step > 0
             text: "Back"
+            size: PushButton.Big
             onClicked: FirstRunViewModel.back()
         }
-        StepDots {
+        Row {
             anchors.centerIn: parent
-            count: FirstRunViewModel.stepCount
-            current: FirstRunViewModel.step
+            spacing: 8
+            Accessible.role: Accessible.StaticText
+            Accessible.name: "Step " + (FirstRunViewModel.step + 1) + " of " + FirstRunViewModel.stepCount
+
+            Repeater {
+                model: FirstRunViewModel.stepCount
+                Rectangle {
+                    id: dot
+                    required property int index
+                    readonly property bool current: dot.index === FirstRunViewModel.step
+                    width: dot.current ? 20 : 7
+                    height: 7
+                    radius: 3.5
+                    color: dot.current ? Theme.accent : Theme.trackOff
+                    Behavior on width { NumberAnimation { duration: Theme.slideTime; easing.type: Easing.OutCubic } }
+                }
+            }
         }
         Row {
             anchors { right: parent.right; rightMargin: 40; verticalCenter: parent.verticalCenter }
             spacing: 10
 
-            BigButton {
+            PushButton {
                 visible: root.atEnd
                 text: "Not Now"
+                size: PushButton.Big
                 onClicked: FirstRunViewModel.notNow()
             }
-            BigPrimaryButton {
+            PushButton {
                 focus: true
+                kind: PushButton.Primary
+                size: PushButton.Big
                 text: root.atEnd ? "Apply to My Dock" : "Continue"
                 onClicked: root.goOn()
             }

@@ -30,10 +30,11 @@ Item {
         text: "Paused: the Dock was changed outside Kelvane."
         elide: Text.ElideRight
     }
-    SmallButton {
+    PushButton {
         id: button
         anchors { right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
         text: "Resume"
+        size: PushButton.Small
         onClicked: App.resume()
     }
 }

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import Kelvane
 
 // What the profile is called and which symbol stands for it.
@@ -61,11 +62,39 @@ Card {
 
             Repeater {
                 model: ProfilesViewModel.editor.symbols
-                SymbolChoice {
+                T.RadioButton {
+                    id: choice
+
                     required property string modelData
-                    symbol: modelData
-                    chosen: ProfilesViewModel.editor.symbol === modelData
-                    onClicked: ProfilesViewModel.editor.symbol = modelData
+
+                    implicitWidth: 30
+                    implicitHeight: 30
+                    focusPolicy: Qt.StrongFocus
+                    checkable: false
+                    checked: ProfilesViewModel.editor.symbol === choice.modelData
+                    onClicked: ProfilesViewModel.editor.symbol = choice.modelData
+                    Accessible.name: choice.modelData
+                    Accessible.onPressAction: choice.clicked()
+                    Keys.onReturnPressed: choice.clicked()
+                    Keys.onLeftPressed: choice.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+                    Keys.onRightPressed: choice.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+
+                    background: Rectangle {
+                        radius: 7
+                        color: choice.checked ? Theme.accent : choice.down ? Theme.selected
+                               : choice.hovered ? Theme.hover : Theme.clear
+                        FocusRing {
+                            shown: choice.visualFocus
+                            controlRadius: 7
+                            anchors.margins: choice.checked ? -4 : -2
+                        }
+                    }
+                    Symbol {
+                        anchors.centerIn: parent
+                        name: choice.modelData
+                        size: 18
+                        tint: choice.checked ? Theme.accentInk : Theme.text2
+                    }
                 }
             }
         }

@@ -27,7 +27,7 @@ FocusScope {
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }
-        ListView {
+        RowList {
             id: list
             objectName: "profiles"
             y: Theme.paneTop + Theme.title.lineHeight + 15
@@ -37,33 +37,18 @@ FocusScope {
             spacing: 2
             model: ProfilesViewModel.profiles
             currentIndex: ProfilesViewModel.selectedRow
-            boundsBehavior: Flickable.StopAtBounds
-            activeFocusOnTab: true
-            // The ring shows where the keys go, to those who use them.
-            property bool byPointer: false
-            onActiveFocusChanged: if (!activeFocus) list.byPointer = false
-            highlightMoveDuration: 0
-            Accessible.role: Accessible.List
-            Accessible.name: "Profiles"
+            name: "Profiles"
+            onRemoveRequested: editor.askToDelete()
             Keys.onUpPressed: ProfilesViewModel.selectRow(list.currentIndex - 1)
             Keys.onDownPressed: ProfilesViewModel.selectRow(list.currentIndex + 1)
             Keys.onReturnPressed: editor.focusName()
-            Keys.onDeletePressed: editor.askToDelete()
-            Keys.onPressed: event => {
-                list.byPointer = false;
-                if (event.key === Qt.Key_Backspace) {
-                    editor.askToDelete();
-                    event.accepted = true;
-                }
-            }
             delegate: ProfileRow {
                 x: 10
                 width: list.width - 20
                 selected: ListView.isCurrentItem
                 focused: activeFocus && !list.byPointer
                 onClicked: {
-                    list.byPointer = true;
-                    list.forceActiveFocus(Qt.MouseFocusReason);
+                    list.takePointer();
                     ProfilesViewModel.select(profileId);
                 }
             }

@@ -9,6 +9,13 @@ Flickable {
 
     readonly property real startY: Math.max(24, Math.min(96, (root.height - 364) / 2))
 
+    component SavedRow: IconStrip {
+        anchors.horizontalCenter: parent.horizontalCenter
+        size: 40
+        gap: 2
+        width: Math.min(implicitWidth, 600)
+    }
+
     contentWidth: width
     contentHeight: choices.y + choices.height + 24
     boundsBehavior: Flickable.StopAtBounds
@@ -25,11 +32,30 @@ Flickable {
         width: root.width
         title: "Your Dock is safe"
     }
-    SavedDock {
+    Rectangle {
         id: plate
+        readonly property bool twoRows: FirstRunViewModel.savedSecondIcons.length > 0
         anchors.horizontalCenter: parent.horizontalCenter
         y: title.y + title.height + 28
         width: 640
+        height: (plate.twoRows ? 88 : 44) + 20
+        radius: 18
+        color: Theme.shelf
+        Accessible.role: Accessible.Graphic
+        Accessible.name: "Your saved Dock"
+        Accessible.description: FirstRunViewModel.savedNames
+
+        Column {
+            anchors.centerIn: parent
+            spacing: 4
+            SavedRow {
+                icons: FirstRunViewModel.savedFirstIcons
+            }
+            SavedRow {
+                visible: plate.twoRows
+                icons: FirstRunViewModel.savedSecondIcons
+            }
+        }
     }
     Item {
         id: saved
@@ -67,7 +93,6 @@ Flickable {
                 added: DockViewModel.added
                 leaving: DockViewModel.leaving
                 moved: DockViewModel.moved
-                leavingLine: ""
             }
         }
         FormRow {

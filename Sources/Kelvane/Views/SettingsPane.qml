@@ -83,8 +83,9 @@ Item {
                     FormRow {
                         label: "Stored in"
                         explanation: SettingsViewModel.folder
-                        SmallButton {
+                        PushButton {
                             text: "Show in Finder"
+                            size: PushButton.Small
                             onClicked: SettingsViewModel.showData()
                         }
                     }
@@ -92,8 +93,9 @@ Item {
                         divided: true
                         label: "Usage history"
                         explanation: "Your usage stays on this Mac."
-                        SmallButton {
+                        PushButton {
                             text: "Erase"
+                            size: PushButton.Small
                             ink: Theme.danger
                             onClicked: (confirmation.createObject(root) as Confirmation).open()
                         }

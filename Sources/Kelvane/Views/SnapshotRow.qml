@@ -81,14 +81,16 @@ Item {
             anchors.right: parent.right
             y: 14
             spacing: 10
-            QuietButton {
+            PushButton {
                 visible: !root.isOriginal
                 text: "Delete"
+                kind: PushButton.Quiet
                 Accessible.description: root.description
                 onClicked: HistoryViewModel.remove(root.snapshotId)
             }
-            SmallButton {
+            PushButton {
                 text: "Restore"
+                size: PushButton.Small
                 enabled: !App.working
                 Accessible.description: root.description
                 onClicked: root.restoreRequested()

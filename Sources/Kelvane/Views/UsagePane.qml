@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Kelvane
 
 // What the ranking sees: the days of the chosen window and the applications in their order.
@@ -25,31 +24,16 @@ Item {
         title: "No usage yet"
         text: "Use your Mac as normal. Apps appear here as you use them."
     }
-    ListView {
+    RowList {
         id: list
         objectName: "ranking"
         visible: !UsageViewModel.isEmpty
         anchors.fill: parent
         model: UsageViewModel.ranking
-        boundsBehavior: Flickable.StopAtBounds
+        name: "Apps by usage"
         reuseItems: true
+        bottomMargin: Theme.paneBottom
         cacheBuffer: 400
-        activeFocusOnTab: true
-        currentIndex: -1
-        keyNavigationEnabled: true
-        highlightFollowsCurrentItem: true
-        highlightMoveDuration: 0
-        Accessible.role: Accessible.List
-        Accessible.name: "Apps by usage"
-        // The ring shows where the keys go, to those who use them.
-        property bool byPointer: false
-        onActiveFocusChanged: {
-            if (!activeFocus)
-                list.byPointer = false;
-            else if (list.currentIndex < 0 && list.Window.activeFocusItem === list)
-                list.currentIndex = 0;
-        }
-        Keys.onPressed: list.byPointer = false
         Keys.onReturnPressed: list.toggleCurrent()
         Keys.onSpacePressed: list.toggleCurrent()
 
@@ -59,9 +43,8 @@ Item {
                 row.toggle();
         }
 
-        // Bound components of this file cannot be made by a view; those of other files can.
+        // A bound component of this file cannot be made by the view; one of another file can.
         header: Qt.createComponent("UsageHeader.qml", Component.PreferSynchronous, list)
-        footer: Qt.createComponent("Components/ListFooter.qml", Component.PreferSynchronous, list)
         delegate: UsageRow {
             width: list.width
             count: list.count

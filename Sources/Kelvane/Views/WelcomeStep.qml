@@ -9,6 +9,42 @@ Flickable {
 
     readonly property real startY: Math.max(24, Math.min(84, (root.height - 388) / 2))
 
+    component Point: Item {
+        id: point
+
+        required property string symbol
+        required property string title
+        required property string text
+
+        implicitWidth: 320
+        implicitHeight: words.height
+
+        Symbol {
+            y: 1
+            name: point.symbol
+            size: 28
+            tint: Theme.accentText
+        }
+        Column {
+            id: words
+            x: 44
+            width: point.width - 44
+            spacing: 2
+            Label {
+                width: parent.width
+                text: point.title
+                type: Theme.headingBig
+                wrapMode: Text.Wrap
+            }
+            Label {
+                width: parent.width
+                text: point.text
+                color: Theme.text2
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+
     contentWidth: width
     contentHeight: points.y + points.height + 24
     boundsBehavior: Flickable.StopAtBounds
@@ -19,16 +55,12 @@ Flickable {
         area: root
     }
 
-    Image {
+    Symbol {
         id: mark
         anchors.horizontalCenter: parent.horizontalCenter
         y: root.startY
-        width: 88
-        height: 88
-        sourceSize.width: 88 * Theme.pixelRatio
-        sourceSize.height: 88 * Theme.pixelRatio
-        source: "image://symbol/kelvane-mark/regular/none"
-        Accessible.ignored: true
+        name: "kelvane-mark"
+        size: 88
     }
     StepTitle {
         id: title
@@ -46,22 +78,22 @@ Flickable {
         columnSpacing: 40
         rowSpacing: 32
 
-        WelcomePoint {
+        Point {
             symbol: "chart.bar.fill"
             title: "Promotes what you use"
             text: "Ranks apps by your last 7 or 30 days and moves them up front."
         }
-        WelcomePoint {
+        Point {
             symbol: "square.stack.3d.up.fill"
             title: "Profiles for every mode"
             text: "Work, Coding, Meeting and Personal. Switch from the menu bar."
         }
-        WelcomePoint {
+        Point {
             symbol: "arrow.uturn.backward.circle.fill"
             title: "One-click undo"
             text: "Every change is saved first. Restore any earlier Dock."
         }
-        WelcomePoint {
+        Point {
             symbol: "lock.shield.fill"
             title: "Private by design"
             text: "Your usage never leaves this Mac. No account, no cloud."

@@ -69,7 +69,7 @@ void LinuxBundles::remember(const QString& path) {
 
 std::optional<QString> LinuxBundles::identifier(const QString& path) {
     const QString bundle = withoutTrailingSlashes(path);
-    if (!isApplication(bundle))
+    if (!DockCore::isApplicationPath(bundle))
         return std::nullopt;
     const QString file = infoFile(bundle);
     std::optional<Reading> known;
@@ -116,7 +116,7 @@ std::optional<QString> LinuxBundles::path(const QString& identifier) {
                 continue;
             visited.insert({stamp->device, stamp->inode});
             for (const QString& entry : LinuxFolders().entries(folder)) {
-                if (!isApplication(entry))
+                if (!DockCore::isApplicationPath(entry))
                     below.append(entry);
                 else if (this->identifier(entry) == identifier)
                     return entry;

@@ -15,7 +15,7 @@ namespace {
 QList<QQuickItem*> tilesIn(const QQuickItem& item) {
     QList<QQuickItem*> tiles;
     for (QQuickItem* child : item.childItems()) {
-        if (QByteArrayView(child->metaObject()->className()).startsWith("TileView"))
+        if (child->property("iconSource").isValid())
             tiles.append(child);
         else
             tiles += tilesIn(*child);

@@ -144,7 +144,7 @@ private:
             const QByteArrayView type(child->metaObject()->className());
             if (!child->isVisible())
                 continue;
-            if (inToast && type.startsWith("Symbol"))
+            if (inToast && child->inherits("Kelvane::SymbolItem"))
                 return child->property("name").toString();
             if (const QString found = toastSymbol(*child, inToast || type.startsWith("Toast")); !found.isEmpty())
                 return found;

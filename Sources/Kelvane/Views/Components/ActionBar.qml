@@ -2,13 +2,13 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kelvane
 
-// The bar below a pane: what is put into `leading` at the left, and the buttons at the right. While something runs, a
-// runner travels on its hairline.
+// The bar below a pane: what is put into `leading` at the left, and the buttons at the right. While something runs whose
+// end cannot be told, a short line travels along its hairline, or, where motion is reduced, a tinted line lies there.
 Item {
     id: root
 
-    property bool running: false
-    property real margin: 32
+    required property bool running
+    readonly property real margin: 32
     default property alias buttons: slot.data
     property alias leading: leadingSlot.data
     readonly property real leadingWidth: root.width - slot.width - 2 * root.margin - 24
@@ -22,9 +22,30 @@ Item {
     Hairline {
         width: root.width
     }
-    IndeterminateBar {
+    Rectangle {
         width: root.width
+        height: 2
         visible: root.running
+        clip: true
+        color: Theme.accentSoft
+        Accessible.role: Accessible.ProgressBar
+        Accessible.name: "Updating Dock…"
+
+        Rectangle {
+            id: runner
+            width: root.width * 0.32
+            height: 2
+            visible: !Theme.reducedMotion
+            color: Theme.accent
+            NumberAnimation on x {
+                running: root.running && runner.visible
+                loops: Animation.Infinite
+                from: -runner.width
+                to: root.width
+                duration: 1200
+                easing.type: Easing.InOutSine
+            }
+        }
     }
     Item {
         id: leadingSlot

@@ -37,7 +37,7 @@ Rectangle {
         color: Theme.warnText
         wrapMode: Text.Wrap
     }
-    SecondaryButton {
+    PushButton {
         id: button
         anchors.right: parent.right
         anchors.rightMargin: 13

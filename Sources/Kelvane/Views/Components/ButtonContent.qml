@@ -9,21 +9,21 @@ Item {
     required property string text
     required property TypeStyle type
     required property color ink
-    property string symbol: ""
+    required property string symbol
     property real symbolSize: 16
-    // The symbol turns, to show that something runs.
-    property bool turning: false
+    property real symbolRotation: 0
     readonly property real symbolSpace: root.symbol === "" ? 0 : root.symbolSize + 6
 
     implicitWidth: label.implicitWidth + root.symbolSpace
     implicitHeight: label.implicitHeight
 
-    // Few buttons have one.
-    Loader {
+    Symbol {
         x: label.x - root.symbolSpace
         anchors.verticalCenter: parent.verticalCenter
-        active: root.symbol !== ""
-        source: "ButtonSymbol.qml"
+        name: root.symbol
+        size: root.symbolSize
+        tint: root.ink
+        rotation: root.symbolRotation
     }
     StyledText {
         id: label

@@ -7,17 +7,15 @@ Rectangle {
     id: root
 
     default property alias content: column.data
-    property real verticalPadding: 0
 
     implicitWidth: column.implicitWidth
-    implicitHeight: column.implicitHeight + 2 * root.verticalPadding
+    implicitHeight: column.implicitHeight
     color: Theme.surface
     border.color: Theme.line
     radius: 12
 
     Column {
         id: column
-        y: root.verticalPadding
         width: root.width
     }
 }

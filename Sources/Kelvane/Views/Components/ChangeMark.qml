@@ -7,15 +7,14 @@ import Kelvane
 Disc {
     id: root
 
-    property string mark: "moved"
+    required property string mark
     property bool idle: false
 
-    symbolSize: root.size === 18 ? 11 : 10
-    symbol: root.mark === "arriving" ? "plus" : root.mark === "leaving" ? "minus"
-            : root.mark === "movedForward" ? "arrow.left" : root.mark === "movedBack" ? "arrow.right"
-            : "arrow.left.arrow.right"
+    name: root.mark === "arriving" ? "plus" : root.mark === "leaving" ? "minus"
+          : root.mark === "movedForward" ? "arrow.left" : root.mark === "movedBack" ? "arrow.right"
+          : "arrow.left.arrow.right"
     fill: root.idle ? Theme.selected : root.mark === "arriving" ? Theme.add
           : root.mark === "leaving" ? Theme.leave : Theme.accentSoft
-    ink: root.idle ? Theme.text3 : root.mark === "arriving" || root.mark === "leaving" ? Theme.surface
-         : Theme.accentText
+    tint: root.idle ? Theme.text3 : root.mark === "arriving" || root.mark === "leaving" ? Theme.surface
+          : Theme.accentText
 }

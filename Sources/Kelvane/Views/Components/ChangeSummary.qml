@@ -2,21 +2,71 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kelvane
 
-// What would change, in three figures, and the names of what would leave. `highlight` is the mark whose figure the
-// pointer rests on.
+// What would change, in three figures with the discs that are the legend of the marks, and the names of what would
+// leave. `highlight` is the mark whose figure the pointer rests on; without room for words only the numbers show.
 Column {
     id: root
 
     required property int added
     required property int leaving
     required property int moved
-    required property string leavingLine
+    property string leavingLine: ""
+    property bool terse: false
     readonly property string highlight: addedFigure.hovered ? "arriving" : leavingFigure.hovered ? "leaving"
                                         : movedFigure.hovered ? "moved" : ""
-
     readonly property real figuresWidth: addedFigure.fullWidth + leavingFigure.fullWidth + movedFigure.fullWidth + 44
     readonly property real shownWidth: addedFigure.implicitWidth + leavingFigure.implicitWidth + movedFigure.implicitWidth + 44
-    property bool terse: false
+
+    component ChangeFigure: Item {
+        id: change
+
+        required property string mark
+        required property int count
+        required property string label
+        readonly property alias hovered: hover.hovered
+        readonly property real fullWidth: words.x + words.implicitWidth
+        // What is on show: it runs down to none when the change was made.
+        property real shownCount: change.count
+        Behavior on shownCount {
+            id: counting
+            enabled: counting.targetValue === 0
+            NumberAnimation { duration: Theme.applyTime; easing.type: Easing.InOutCubic }
+        }
+
+        implicitWidth: root.terse ? figure.x + figure.width : change.fullWidth
+        implicitHeight: Math.max(18, Theme.figure.lineHeight)
+        Accessible.role: Accessible.StaticText
+        Accessible.name: change.count + " " + change.label
+
+        ChangeMark {
+            anchors.verticalCenter: parent.verticalCenter
+            mark: change.mark
+            idle: change.count === 0
+        }
+        StyledText {
+            id: figure
+            x: 25
+            anchors.verticalCenter: parent.verticalCenter
+            text: Math.round(change.shownCount)
+            type: change.count === 0 ? Theme.figureZero : Theme.figure
+            color: change.count === 0 ? Theme.text3 : Theme.text
+        }
+        StyledText {
+            id: words
+            x: figure.x + figure.width + 7
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !root.terse
+            text: change.label
+            color: Theme.text2
+        }
+        HoverHandler {
+            id: hover
+        }
+        Hint {
+            text: change.label
+            shown: root.terse && hover.hovered
+        }
+    }
 
     spacing: 3
 
@@ -24,21 +74,18 @@ Column {
         spacing: 22
         ChangeFigure {
             id: addedFigure
-            terse: root.terse
             mark: "arriving"
             count: root.added
             label: "added"
         }
         ChangeFigure {
             id: leavingFigure
-            terse: root.terse
             mark: "leaving"
             count: root.leaving
             label: "leaving"
         }
         ChangeFigure {
             id: movedFigure
-            terse: root.terse
             mark: "moved"
             count: root.moved
             label: "moved"

@@ -9,13 +9,11 @@ Item {
     required property list<string> icons
     property real size: 30
     property real gap: 4
-    property int most: 1000
     readonly property int fitting: Math.floor((root.width + root.gap) / (root.size + root.gap))
-    readonly property int wanted: Math.min(root.icons.length, root.most)
-    readonly property int shown: root.wanted <= root.fitting ? root.wanted : Math.max(0, root.fitting - 1)
+    readonly property int shown: root.icons.length <= root.fitting ? root.icons.length : Math.max(0, root.fitting - 1)
 
     implicitHeight: root.size
-    implicitWidth: Math.max(0, root.wanted * (root.size + root.gap) - root.gap)
+    implicitWidth: Math.max(0, root.icons.length * (root.size + root.gap) - root.gap)
 
     Row {
         spacing: root.gap
@@ -28,7 +26,7 @@ Item {
             }
         }
         Label {
-            visible: root.shown < root.wanted
+            visible: root.shown < root.icons.length
             height: root.size
             text: "+" + (root.icons.length - root.shown)
             type: Theme.caption

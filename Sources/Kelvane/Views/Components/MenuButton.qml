@@ -11,6 +11,7 @@ T.ComboBox {
     required property string label
     property bool inCard: false
     readonly property bool hasSymbols: root.valueRole !== ""
+    readonly property real cornerRadius: root.inCard ? 7 : 8
     // The menu was opened by a key that is still down.
     property bool opening: false
 
@@ -19,6 +20,30 @@ T.ComboBox {
         if (event.accepted) {
             root.opening = true;
             root.popup.open();
+        }
+    }
+
+    component Inside: Item {
+        id: inside
+
+        implicitWidth: label.x + label.implicitWidth + 24
+        implicitHeight: label.implicitHeight
+
+        Symbol {
+            id: symbol
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.hasSymbols && root.currentValue ? root.currentValue : ""
+            tint: Theme.text2
+        }
+        StyledText {
+            id: label
+            x: symbol.name === "" ? 0 : 24
+            width: Math.min(implicitWidth, inside.width - x - 24)
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.displayText
+            type: root.inCard ? Theme.captionMedium : Theme.button
+            color: root.enabled ? Theme.text : Theme.disabled
+            elide: Text.ElideRight
         }
     }
 
@@ -40,21 +65,22 @@ T.ComboBox {
     }
 
     background: Rectangle {
-        radius: root.inCard ? 7 : 8
+        radius: root.cornerRadius
         color: root.down ? Theme.controlPress : root.hovered ? Theme.controlHover : Theme.control
         border.color: root.enabled ? Theme.lineStrong : Theme.line
         FocusRing {
             shown: root.visualFocus
-            controlRadius: root.inCard ? 7 : 8
+            controlRadius: root.cornerRadius
         }
     }
-    indicator: null
-    contentItem: MenuButtonContent {
-        text: root.displayText
-        symbol: root.hasSymbols && root.currentValue ? root.currentValue : ""
-        type: root.inCard ? Theme.captionMedium : Theme.button
-        ink: root.enabled ? Theme.text : Theme.disabled
+    indicator: Symbol {
+        x: root.width - width - root.rightPadding
+        y: (root.height - height) / 2
+        name: "chevron.up.chevron.down"
+        size: 14
+        tint: Theme.text2
     }
+    contentItem: Inside {}
     delegate: MenuRow {
         required property int index
         text: root.textAt(index)
@@ -63,11 +89,31 @@ T.ComboBox {
         chosen: root.currentIndex === index
         highlighted: root.highlightedIndex === index
     }
-    popup: MenuPopup {
+    popup: T.Popup {
         y: root.height + 4
         x: root.width - width
-        choices: root.popup.visible ? root.delegateModel : null
-        current: root.highlightedIndex
-        minimumWidth: root.width
+        padding: 5
+        margins: 8
+        width: Math.max(root.width, 200)
+        implicitHeight: contentItem.implicitHeight + 10
+
+        background: Rectangle {
+            radius: 11
+            color: Theme.raised
+            border.color: Theme.lineStrong
+            Shadow {
+                spread: 20
+                drop: 6
+                cornerRadius: 11
+            }
+        }
+        contentItem: ListView {
+            implicitHeight: Math.min(contentHeight, 420)
+            clip: contentHeight > height
+            model: root.popup.visible ? root.delegateModel : null
+            currentIndex: root.highlightedIndex
+            boundsBehavior: Flickable.StopAtBounds
+            highlightMoveDuration: 0
+        }
     }
 }

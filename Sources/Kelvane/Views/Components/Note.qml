@@ -12,10 +12,10 @@ Item {
     implicitHeight: words.implicitHeight
 
     Symbol {
-        x: 0
         y: (Theme.caption.lineHeight - height) / 2
         name: root.symbol
         size: 15
+        tint: Theme.text2
     }
     Label {
         id: words

@@ -7,8 +7,6 @@ import Kelvane
 Flickable {
     id: root
 
-    property real margin: Theme.paneMargin
-    property real spacing: 0
     default property alias content: column.data
 
     contentWidth: width
@@ -18,10 +16,9 @@ Flickable {
 
     Column {
         id: column
-        x: root.margin
+        x: Theme.paneMargin
         y: Theme.paneTop
-        width: root.width - 2 * root.margin
-        spacing: root.spacing
+        width: root.width - 2 * Theme.paneMargin
     }
     KeyScroll {
         area: root

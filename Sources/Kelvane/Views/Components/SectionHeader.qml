@@ -33,7 +33,7 @@ Item {
             wrapMode: Text.Wrap
         }
     }
-    QuietButton {
+    PushButton {
         visible: root.undoText !== ""
         anchors.right: parent.right
         anchors.rightMargin: -10
@@ -41,6 +41,7 @@ Item {
         width: Math.min(implicitWidth, root.width - 160)
         text: root.undoText
         symbol: "arrow.uturn.backward.circle.fill"
+        kind: PushButton.Quiet
         type: Theme.captionMedium
         onClicked: root.undoRequested()
     }

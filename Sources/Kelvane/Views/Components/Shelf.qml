@@ -12,7 +12,7 @@ Rectangle {
     property string emptyText: ""
     // One of the marks; tiles without it step back.
     property string highlight: ""
-    readonly property TileView pointed: pointer.hovered ? root.tileAt(pointer.point.position) : null
+    readonly property Tile pointed: pointer.hovered ? root.tileAt(pointer.point.position) : null
     readonly property color plate: root.suggested ? Theme.surface : Theme.shelf
     // A tile is seen to arrive when it joins those that were there from the start.
     property bool joined: false
@@ -20,11 +20,31 @@ Rectangle {
     readonly property int moveTime: root.suggested ? Theme.tileTime : Theme.applyTime
     readonly property int moveCurve: root.suggested ? Easing.OutCubic : Easing.InOutCubic
 
-    function tileAt(place: point): TileView {
-        return flow.childAt(place.x - flow.x, place.y - flow.y) as TileView;
+    component ShelfTile: Tile {
+        id: tile
+
+        property Item line: null
+        property Item ground: null
+        property Item pin: null
+        property Item changeMark: null
+        property bool completed: false
+
+        cell: parts.cell
+        cellHeight: parts.height
+        icon: parts.icon
+        plate: root.plate
+        onSpacerChanged: tile.line = tile.line ?? parts.line.createObject(tile, { tile: tile })
+        onArrivingChanged: tile.ground = tile.ground ?? parts.plate.createObject(tile, { tile: tile })
+        onPinnedChanged: tile.pin = tile.pin ?? parts.pin.createObject(tile, { tile: tile })
+        onChangesChanged: tile.changeMark = tile.changeMark ?? parts.mark.createObject(tile, { tile: tile, isNew: tile.completed })
+        Component.onCompleted: tile.completed = true
     }
 
-    implicitHeight: Math.max(tileMetrics.height, flow.height) + 17
+    function tileAt(place: point): Tile {
+        return flow.childAt(place.x - flow.x, place.y - flow.y) as Tile;
+    }
+
+    implicitHeight: Math.max(parts.height, flow.height) + 17
     radius: 18
     color: root.plate
     border.width: root.suggested ? 1 : 0
@@ -37,13 +57,10 @@ Rectangle {
             root.joined = true;
         }
     }
-    TileMetrics {
-        id: tileMetrics
+    TileParts {
+        id: parts
         plateWidth: root.width
         dense: root.dense
-    }
-    TileParts {
-        id: tileParts
     }
     Flow {
         id: flow
@@ -61,10 +78,7 @@ Rectangle {
                         accessibleName: "", mark: item.mark, pinned: item.pinned, spacer: item.spacer
                     });
             }
-            delegate: TileView {
-                metrics: tileMetrics
-                parts: tileParts
-                plate: root.plate
+            delegate: ShelfTile {
                 faded: root.highlight !== "" && !mark.startsWith(root.highlight)
             }
         }
@@ -82,11 +96,8 @@ Rectangle {
     Component {
         id: departing
 
-        TileView {
+        ShelfTile {
             id: leftTile
-            metrics: tileMetrics
-            parts: tileParts
-            plate: root.plate
             Accessible.ignored: true
             NumberAnimation on opacity {
                 to: 0

@@ -10,8 +10,35 @@ T.SpinBox {
     required property string label
     required property string valueText
 
-    implicitWidth: 56 + Math.max(36, reading.implicitWidth + 20)
-    implicitHeight: Math.max(28, reading.implicitHeight + 8)
+    component Half: Item {
+        id: half
+
+        required property string symbol
+        required property bool pressed
+        required property bool hovered
+        required property bool usable
+
+        implicitWidth: 28
+        implicitHeight: 28
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: 1
+            radius: 7
+            visible: half.usable && (half.pressed || half.hovered)
+            color: half.pressed ? Theme.controlPress : Theme.controlHover
+        }
+        Symbol {
+            anchors.centerIn: parent
+            name: half.symbol
+            size: 14
+            tint: Theme.text2
+            opacity: half.usable ? 1 : 0.35
+        }
+    }
+
+    implicitWidth: 56 + Math.max(36, metrics.advanceWidth + 20)
+    implicitHeight: Math.max(28, Theme.heading.lineHeight + 8)
     editable: false
     focusPolicy: Qt.StrongFocus
     Accessible.name: root.label
@@ -35,30 +62,25 @@ T.SpinBox {
     }
     leftPadding: 28
     rightPadding: 28
-    down.indicator: StepperHalf {
+    down.indicator: Half {
         height: root.height
         symbol: "minus"
-        down: root.down.pressed
-        over: root.down.hovered
+        pressed: root.down.pressed
+        hovered: root.down.hovered
         usable: root.value > root.from
     }
-    up.indicator: StepperHalf {
+    up.indicator: Half {
         x: root.width - width
         height: root.height
         symbol: "plus"
-        down: root.up.pressed
-        over: root.up.hovered
+        pressed: root.up.pressed
+        hovered: root.up.hovered
         usable: root.value < root.to
     }
     TextMetrics {
         id: metrics
         font: Theme.heading.font
         text: root.valueText
-    }
-    QtObject {
-        id: reading
-        readonly property real implicitWidth: metrics.advanceWidth
-        readonly property real implicitHeight: Theme.heading.lineHeight
     }
     Rectangle {
         x: 28

@@ -45,7 +45,7 @@ T.TextField {
     Symbol {
         x: 11
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.symbol !== ""
         name: root.symbol
+        tint: Theme.text2
     }
 }

@@ -13,7 +13,9 @@ Item {
     required property string mark
     required property bool pinned
     required property bool spacer
-    required property TileMetrics metrics
+    required property real cell
+    required property real cellHeight
+    required property real icon
     required property color plate
     property bool faded: false
     // From 0 to 1 while it arrives.
@@ -27,10 +29,10 @@ Item {
     readonly property bool leaving: root.mark === "leaving"
     readonly property bool changes: root.mark !== "none"
     readonly property color rim: root.arriving ? Theme.addSoft : root.plate
-    readonly property real iconX: (root.width - root.metrics.icon) / 2
+    readonly property real iconX: (root.width - root.icon) / 2
 
-    implicitWidth: root.spacer ? 16 : root.metrics.cell
-    implicitHeight: root.metrics.height
+    implicitWidth: root.spacer ? 16 : root.cell
+    implicitHeight: root.cellHeight
     opacity: root.presence * root.strength
     scale: 0.85 + 0.15 * root.presence
     Accessible.role: root.spacer ? Accessible.Separator : Accessible.Graphic
@@ -41,10 +43,10 @@ Item {
         visible: !root.spacer
         x: root.iconX
         y: 3
-        width: root.metrics.icon
-        height: root.metrics.icon
-        sourceSize.width: root.metrics.icon * Theme.pixelRatio
-        sourceSize.height: root.metrics.icon * Theme.pixelRatio
+        width: root.icon
+        height: root.icon
+        sourceSize.width: root.icon * Theme.pixelRatio
+        sourceSize.height: root.icon * Theme.pixelRatio
         source: root.iconSource
         asynchronous: true
         opacity: root.leaving ? 0.34 : 1
@@ -52,7 +54,7 @@ Item {
     StyledText {
         visible: !root.spacer
         x: 2
-        y: 4 + root.metrics.icon
+        y: 4 + root.icon
         width: root.width - 4
         text: root.name
         type: root.arriving ? Theme.smallStrong : Theme.small

@@ -51,7 +51,6 @@ Item {
     }
 
     Rectangle {
-        id: plate
         anchors.fill: parent
         radius: 11
         color: Theme.raised

@@ -1,6 +1,0 @@
-import QtQuick
-
-// Room between two blocks.
-Item {
-    width: 1
-}
