@@ -112,7 +112,8 @@ int main(int argc, char** argv) {
     }
 
     const Platform::TerminationSignals terminationSignals;
-    QObject::connect(&terminationSignals, &Platform::TerminationSignals::received, &application, &QCoreApplication::quit);
+    QObject::connect(&terminationSignals, &Platform::TerminationSignals::received, &application,
+                     &QCoreApplication::quit);
     Platform::SystemSession desktop(system.services());
     AppModel model(system.services(), paths, &desktop.workspace(), &desktop.loginItem());
     CommandRunner runner(model);

@@ -47,7 +47,6 @@ LinuxBundles::LinuxBundles(std::function<QStringList()> searchFolders, std::func
     : m_searchFolders(std::move(searchFolders))
     , m_memory(std::move(memory)) {}
 
-
 QStringList LinuxBundles::remembered() const {
     const std::optional<QJsonValue> kept = DockCore::JSONFile::read(m_memory());
     return kept ? DockCore::JSONForm<QStringList>::read(*kept).value_or(QStringList()) : QStringList();

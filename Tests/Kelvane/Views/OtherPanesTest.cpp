@@ -127,8 +127,8 @@ private Q_SLOTS:
         mac->open(Pane::settings);
         QVERIFY(mac->find(u"Paused: the Dock was changed outside Kelvane."_s) != nullptr);
         mac->click(u"Resume"_s);
-        QVERIFY(!mac->world.profileStore().settings.autoPaused);
         QVERIFY(mac->waitForChange());
+        QVERIFY(!mac->world.profileStore().settings.autoPaused);
         QTRY_VERIFY(mac->find(u"Paused: the Dock was changed outside Kelvane."_s) == nullptr);
     }
 
