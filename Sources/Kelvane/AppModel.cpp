@@ -207,7 +207,7 @@ void AppModel::activate(const QUuid& profile, Apply apply) {
         refreshAndApply(Notify::always);
 }
 
-bool AppModel::refuseWhileWorking(const Reply& reply) {
+bool AppModel::refuseWhileWorking(const Reply& reply) const {
     if (m_isWorking && reply)
         reply({.refused = true});
     return m_isWorking;

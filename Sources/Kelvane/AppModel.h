@@ -177,7 +177,7 @@ private:
     /// Records a change that succeeded; gives the sentence for the user.
     QString record(const DockChange& change);
     void conclude(const Outcome& outcome, Notify notify, const Reply& reply);
-    bool refuseWhileWorking(const Reply& reply);
+    bool refuseWhileWorking(const Reply& reply) const;
 
     void readCurrent();
     void readLoginItem();
