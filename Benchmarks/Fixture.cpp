@@ -130,7 +130,7 @@ void Fixture::makeUsage(int applications) const {
             usage.addActivation(identifier(number), std::nullopt, moment);
         }
     }
-    usage.save();
+    usage.save(m_now);
 }
 
 Profile Fixture::profile() const {
